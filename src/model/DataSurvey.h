@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/clsNoteProps.h"
+
+#include <QByteArrayView>
+
+#include <vector>
+
+/// What a data file holds as far as it can be believed. No count or length of the file makes it larger than a few times
+/// the file.
+struct DataSurvey
+{
+    struct Note
+    {
+        int number = 0; ///< Place in the directory, counted from 1.
+        clsNoteProps note;
+        QByteArrayView record;
+    };
+
+    int recordCount = 0; ///< Entries of the directory that the file has room for.
+    std::vector<Note> notes;
+    std::vector<QByteArrayView> beyondRoom; ///< Sound records that were too many, in the directory's order.
+    int undecodable = 0;
+    bool isFlawed = false; ///< Writing all of this back would not give the file again.
+};
+
+/// Reads a whole data file; at most `room` notes are made. The views point into the file.
+DataSurvey surveyDataFile(QByteArrayView file, const clsNoteProps &noteTemplate, int room);

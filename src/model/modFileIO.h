@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The program's own files: notes, options and recent lists. Each has a header of its own for who needs no more.
+#include "model/dataFile.h"
+#include "model/optionsFile.h"
+#include "model/recentLists.h"

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/Outcome.h"
+#include "model/ProgramPaths.h"
+
+#include <QStringList>
+
+enum class RecentList
+{
+    Email,
+    Send
+};
+
+/// The misc file's two lines.
+struct MiscLines
+{
+    QString email;
+    QString send;
+};
+
+/// The lists of addresses used of late, at most ten each.
+namespace modFileIO
+{
+
+/// Both lines are empty when the file is missing or unreadable.
+MiscLines ReadMiscFile(const ProgramPaths &paths);
+/// Keeps the first `count` items, ten at most, and the other list as it is.
+Outcome<Done, QString> SaveRecentList(const ProgramPaths &paths, RecentList which, const QStringList &items,
+                                      qsizetype count);
+QStringList LoadRecentList(const ProgramPaths &paths, RecentList which);
+
+} // namespace modFileIO

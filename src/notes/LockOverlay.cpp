@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/LockOverlay.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+
+namespace {
+constexpr qreal OverlayPoints = 8.5;
+}
+
+void LockOverlay::make()
+{
+    m_frame = new QWidget(m_note);
+    m_frame->setObjectName(QStringLiteral("fraPassword"));
+    m_frame->setAutoFillBackground(true);
+    m_label = new QLabel(m_frame);
+    m_label->setObjectName(QStringLiteral("lblPassword"));
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setAlignment(Qt::AlignCenter);
+    m_label->setWordWrap(true);
+    m_label->setFocusPolicy(Qt::StrongFocus);
+    m_label->setCursor(Qt::PointingHandCursor);
+    m_label->setText(tr("\r\nThis Quillet is locked.\r\nPlease click here to proceed."));
+    QFont font = m_label->font();
+    font.setPointSizeF(OverlayPoints);
+    m_label->setFont(font);
+    m_label->installEventFilter(this);
+}
+
+void LockOverlay::dress()
+{
+    QPalette palette = m_frame->palette();
+    palette.setColor(QPalette::Window, m_paper);
+    palette.setColor(QPalette::WindowText, m_ink);
+    m_frame->setPalette(palette);
+    m_label->setPalette(palette);
+    m_frame->setGeometry(m_rect);
+    m_label->setGeometry(QRect(QPoint(0, 0), m_rect.size()));
+}
+
+void LockOverlay::setVisible(bool visible)
+{
+    if (m_frame == nullptr && !visible)
+        return;
+    if (m_frame == nullptr)
+        make();
+    dress();
+    m_frame->setVisible(visible);
+    m_frame->raise();
+}
+
+void LockOverlay::setGeometry(const QRect &rect)
+{
+    m_rect = rect;
+    if (m_frame != nullptr)
+        dress();
+}
+
+void LockOverlay::setInk(const QColor &ink, const QColor &paper)
+{
+    m_ink = ink;
+    m_paper = paper;
+    if (m_frame != nullptr)
+        dress();
+}
+
+bool LockOverlay::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        emit clicked();
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+        return false;
+    emit clicked();
+    return true;
+}

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/NoteBody.h"
+
+#include "shell/common/modForms.h"
+
+NoteBody::NoteBody(QWidget *note) : QObject(note), m_note(note), m_display(new QWidget(note)), m_text(new NoteText(m_display))
+{
+    m_display->setObjectName(QStringLiteral("fraDisplay"));
+    m_text->setObjectName(QStringLiteral("lblDisplay"));
+    connect(m_text, &NoteText::pressed, this, &NoteBody::textPressed);
+}
+
+void NoteBody::setGeometry(const QRect &rect)
+{
+    m_rect = rect;
+    const QRect inside(QPoint(0, 0), rect.size());
+    m_display->setGeometry(rect);
+    m_text->setGeometry(inside);
+    if (m_picture != nullptr)
+        m_picture->setGeometry(inside);
+    if (m_editLayer != nullptr) {
+        m_editLayer->setGeometry(rect);
+        m_textBox->setGeometry(inside);
+    }
+}
+
+void NoteBody::setShown(bool shown)
+{
+    m_shown = shown;
+    showLayers();
+}
+
+void NoteBody::showLayers()
+{
+    m_display->setVisible(m_shown && !m_editing);
+    if (m_editLayer != nullptr)
+        m_editLayer->setVisible(m_shown && m_editing);
+}
+
+void NoteBody::setLook(const QFont &font, const NoteInk &ink)
+{
+    m_font = font;
+    m_ink = ink;
+    m_text->setFont(font);
+    m_text->setInk(ink.ink);
+    dressTextBox();
+}
+
+void NoteBody::setText(const QString &text)
+{
+    m_text->setCaption(modForms::DoubleFirstAmpersand(text));
+}
+
+bool NoteBody::setPicture(const QString &path)
+{
+    if (path.isEmpty()) {
+        delete m_picture;
+        return true;
+    }
+    if (m_picture == nullptr) {
+        m_picture = new BackgroundPicture(m_display);
+        m_picture->lower();
+        m_picture->setGeometry(QRect(QPoint(0, 0), m_rect.size()));
+        m_picture->show();
+    }
+    if (m_picture->load(path))
+        return true;
+    delete m_picture;
+    return false;
+}
+
+void NoteBody::makeTextBox()
+{
+    m_editLayer = new QWidget(m_note);
+    m_editLayer->setObjectName(QStringLiteral("fraText"));
+    m_editLayer->stackUnder(m_display);
+    m_textBox = new NoteTextBox(m_editLayer);
+    m_textBox->setObjectName(QStringLiteral("txtText"));
+    connect(m_textBox, &NoteTextBox::left, this, &NoteBody::commit);
+    dressTextBox();
+    setGeometry(m_rect);
+}
+
+void NoteBody::dressTextBox()
+{
+    if (m_textBox == nullptr)
+        return;
+    m_textBox->setFont(m_font);
+    m_textBox->setInk(m_ink.ink, m_ink.paper);
+}
+
+void NoteBody::BeginTextEditing(const QString &text)
+{
+    if (m_editing)
+        return;
+    if (m_textBox == nullptr)
+        makeTextBox();
+    m_editing = true;
+    showLayers();
+    m_textBox->setNoteText(text);
+    m_textBox->setFocus(Qt::MouseFocusReason);
+    emit editingChanged(true);
+}
+
+void NoteBody::commit()
+{
+    if (!m_editing)
+        return;
+    m_editing = false;
+    const QString text = m_textBox->noteText();
+    setText(text);
+    showLayers();
+    m_textBox->setNoteText({});
+    emit editingChanged(false);
+    emit committed(text);
+}
+
+void NoteBody::replaceEditedText(const QString &text)
+{
+    QTextCursor cursor(m_textBox->document());
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(text);
+    m_textBox->moveCursor(QTextCursor::End);
+}

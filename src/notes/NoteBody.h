@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "notes/parts/BackgroundPicture.h"
+#include "notes/parts/NoteInk.h"
+#include "notes/parts/NoteText.h"
+#include "notes/parts/NoteTextBox.h"
+
+#include <QPointer>
+
+/// The body of a note: the display layer with picture and text, and the editing layer with the text box, which is
+/// made when the text is first edited. One of the two is shown.
+class NoteBody final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit NoteBody(QWidget *note);
+
+    void setGeometry(const QRect &rect);
+    /// False hides both layers.
+    void setShown(bool shown);
+    void setLook(const QFont &font, const NoteInk &ink);
+    void setText(const QString &text);
+    /// An empty path takes the picture away. False when the file cannot be shown.
+    bool setPicture(const QString &path);
+
+    void BeginTextEditing(const QString &text);
+    bool isEditing() const { return m_editing; }
+    /// Ends an edit that is under way and tells its text.
+    void commit();
+    /// Replaces the text of an edit under way, undoable.
+    void replaceEditedText(const QString &text);
+
+signals:
+    void textPressed(Qt::MouseButton button, QPoint globalPosition);
+    void editingChanged(bool editing);
+    void committed(const QString &text);
+
+private:
+    void makeTextBox();
+    void showLayers();
+    void dressTextBox();
+
+    QWidget *m_note;
+    QWidget *m_display; // fraDisplay
+    NoteText *m_text;   // lblDisplay
+    QPointer<BackgroundPicture> m_picture;
+    QPointer<QWidget> m_editLayer; // fraText
+    QPointer<NoteTextBox> m_textBox;
+    QRect m_rect;
+    QFont m_font;
+    NoteInk m_ink;
+    bool m_shown = true;
+    bool m_editing = false;
+};

@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/frmNote.h"
+
+#include "notes/LockOverlay.h"
+#include "notes/NoteBody.h"
+#include "notes/ResizeHandles.h"
+#include "notes/parts/NoteTitle.h"
+#include "notes/parts/TextShortening.h"
+#include "platform/Prompts.h"
+#include "platform/WindowStacking.h"
+#include "security/noteLocks.h"
+#include "shell/common/Program.h"
+#include "shell/common/modForms.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+using namespace std::chrono_literals;
+
+namespace {
+constexpr auto PlaceSettles = 300ms;
+constexpr int DeleteTitleWidth = 2000; // design twips
+} // namespace
+
+frmNote::frmNote(Program &program)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), Form(program.forms, formNames::Note.toString()),
+      m_program(program), m_drag(*this), m_toolbar(new NoteToolbar(program.pictures(), this)), m_body(new NoteBody(this)),
+      m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_drag))
+{
+    setObjectName(formName());
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    makeTitleBar();
+    m_placeTimer.setSingleShot(true);
+    m_placeTimer.setInterval(PlaceSettles);
+    m_drag.setLimits(NoteLayout::smallestSize(), false);
+    connectParts();
+}
+
+frmNote::~frmNote() = default;
+
+void frmNote::makeTitleBar()
+{
+    m_titleBar = new QWidget(this);
+    m_titleBar->setObjectName(QStringLiteral("fraTitleBar"));
+    m_title = new NoteTitle(m_titleBar);
+    m_menu = new PictureButton(m_program.pictures(), QStringLiteral("imgMenu"), m_titleBar);
+    m_menu->setPictures(QStringLiteral("menuup.gif"), QStringLiteral("menudown.gif"));
+    m_menu->setCaption(tr("Menu"));
+    m_minimize = new PictureButton(m_program.pictures(), QStringLiteral("imgMinimize"), m_titleBar);
+    m_minimize->setPictures(QStringLiteral("minimizeup.gif"), QStringLiteral("closeactive.gif"));
+    m_minimize->setCaption(tr("Delete"));
+    m_exit = new PictureButton(m_program.pictures(), QStringLiteral("imgExit"), m_titleBar);
+    m_exit->setPictures(QStringLiteral("closeup.gif"), QStringLiteral("closeactive.gif"));
+    m_exit->setCaption(tr("To NoteStack"));
+}
+
+void frmNote::connectParts()
+{
+    connect(&m_title->label(), &TitleLabel::pressed, this, &frmNote::startMove);
+    connect(&m_title->label(), &TitleLabel::dragged, this, [this](QPoint at) { m_drag.move(at); });
+    connect(&m_title->label(), &TitleLabel::released, this, &frmNote::endMove);
+    connect(&m_title->label(), &TitleLabel::doubleClicked, this, &frmNote::scrollStep);
+    connect(m_title, &NoteTitle::edited, this, &frmNote::titleEdited);
+    connect(m_minimize, &PictureButton::commanded, this, &frmNote::deleteNote);
+    connect(m_toolbar, &NoteToolbar::commanded, this, &frmNote::commanded);
+    connect(m_toolbar, &NoteToolbar::clickedElsewhere, this, &frmNote::EndTextEditing);
+    connect(m_body, &NoteBody::textPressed, this, [this](Qt::MouseButton button) {
+        if (button == Qt::LeftButton)
+            beginTextEditing();
+    });
+    connect(m_body, &NoteBody::editingChanged, m_toolbar, &NoteToolbar::setEditing);
+    connect(m_body, &NoteBody::committed, this, [this](const QString &text) {
+        if (!m_locked)
+            m_record.Data = text;
+        markChanged();
+    });
+    connect(m_overlay, &LockOverlay::clicked, this, &frmNote::unlock);
+    connect(m_handles, &ResizeHandles::sized, this, [this] {
+        storeSize();
+        storePlace();
+    });
+    connect(&m_placeTimer, &QTimer::timeout, this, &frmNote::storePlace);
+}
+
+void frmNote::InitiateNote(clsNoteProps record)
+{
+    m_record = std::move(record);
+    modForms::HookWindow(m_program.forms, *this);
+    m_toolbar->setDate(m_record.DateCreated);
+    ScaleNoteControls();
+    UpdateToolbarIcons();
+}
+
+QString frmNote::title() const
+{
+    return m_record.TitleBarTitle.isEmpty() ? m_record.TempTitle : m_record.TitleBarTitle;
+}
+
+QString frmNote::ShortenString(const QString &text, int maxWidth, const QString &fontName, qreal fontSize) const
+{
+    QFont measured = font();
+    measured.setFamily(fontName);
+    measured.setPointSizeF(fontSize);
+    return textShortening::shortened(text, maxWidth, measured);
+}
+
+void frmNote::SaveThisNote()
+{
+    if (m_placeTimer.isActive())
+        storePlace();
+    modForms::saveNote(m_program, m_record);
+}
+
+void frmNote::markUnsaved(qint32 tag)
+{
+    if (tag == m_record.Tag)
+        markChanged();
+}
+
+void frmNote::commitEditing()
+{
+    m_title->endEditing();
+    m_body->commit();
+}
+
+void frmNote::ThisFormLostFocus()
+{
+    m_body->commit();
+}
+
+void frmNote::Destroy()
+{
+    m_closing = true;
+    m_placeTimer.stop();
+    m_title->giveUp();
+    modForms::UnhookWindow(*this);
+}
+
+void frmNote::RemoveFromDesktop()
+{
+    m_body->commit();
+    Destroy();
+    modForms::removeNote(m_program, m_record);
+    unload();
+}
+
+void frmNote::ToTheNoteStack() {}
+
+void frmNote::deleteNote()
+{
+    const QString shortTitle =
+        ShortenString(title(), Twips::design(DeleteTitleWidth), font().family(), font().pointSizeF());
+    const QPointer<frmNote> self = this;
+    const Message question{tr("Delete note '") + shortTitle + tr("' ?"), tr("Note Deletion"), Message::Icon::None,
+                           Message::Buttons::OkCancel};
+    if (m_program.prompts().ask(question, this) != Prompts::Answer::Ok || self == nullptr || isUnloaded())
+        return;
+    if (m_locked) {
+        m_program.prompts().tell({tr("You cannot delete a Quillet that is locked."), tr("Deletion Error"), Message::Icon::Critical},
+                                 this);
+        return;
+    }
+    const noteLocks::Refusal refusal{tr("Invalid authentication.  Quillet deletion failed."), tr("Deletion failed")};
+    if (noteLocks::checkReadOnly(m_program, m_record, noteLocks::readOnlyDescription(), refusal, this) &&
+        self != nullptr && !isUnloaded())
+        RemoveFromDesktop();
+}
+
+void frmNote::beginTextEditing()
+{
+    const QPointer<frmNote> self = this;
+    if (m_locked || m_body->isEditing())
+        return;
+    const noteLocks::Refusal refusal{tr("Editing failed."), tr("Editing failed")};
+    if (!noteLocks::checkReadOnly(m_program, m_record, noteLocks::readOnlyDescription(), refusal, this) ||
+        self == nullptr || m_locked || isUnloaded())
+        return;
+    activateWindow();
+    m_body->BeginTextEditing(m_record.Data);
+}
+
+void frmNote::EndTextEditing()
+{
+    m_body->commit();
+}
+
+void frmNote::unlock()
+{
+    const QPointer<frmNote> self = this;
+    const QString shortTitle = textShortening::shortened(title(), Twips::design(DeleteTitleWidth) * 2, font());
+    const bool accepted = noteLocks::AuthenticateNote(m_program, u'\'' + shortTitle + u'\'', m_record.Pwd, this);
+    if (self == nullptr || isUnloaded())
+        return;
+    if (accepted)
+        ShowLockLayer(false);
+    else
+        m_program.prompts().tell({tr("Invalid password.  Access to note failed."), tr("Access failed")}, this);
+}
+
+void frmNote::commanded(NoteToolbar::Command) {}
+
+void frmNote::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+    EndTextEditing();
+}
+
+void frmNote::closeEvent(QCloseEvent *event)
+{
+    // A note is deleted on purpose or goes with the program; a window manager's close does neither.
+    event->setAccepted(m_closing);
+}
+
+void frmNote::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const int titleHeight = NoteLayout::rolledHeight();
+    painter.fillRect(rect(), m_ink.paper);
+    painter.fillRect(QRect(0, 0, width(), titleHeight), m_ink.titleStrip);
+    if (height() > titleHeight + 1)
+        painter.fillRect(QRect(0, titleHeight, width(), 1), m_ink.titleLine);
+    if (m_toolbar->isVisible())
+        painter.fillRect(QRect(0, m_toolbar->geometry().bottom() + 1, width(), 1), m_ink.toolLine);
+    // Rectangles, not lines: a line of a pen would lie beside the edge at other scales than 1.
+    for (const QRect &edge : {QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1), QRect(0, 0, 1, height()),
+                              QRect(width() - 1, 0, 1, height())})
+        painter.fillRect(edge, m_ink.outline);
+}

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+#include <memory>
+#include <vector>
+
+class QTextLayout;
+
+/// Shows a note's text the way its text box would, letter for letter at the same place, without the cost of a text
+/// box. The caption is the text as modForms::DoubleFirstAmpersand gives it. Only what is visible is laid out, however
+/// long the text is; the wheel scrolls.
+class NoteText final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit NoteText(QWidget *parent);
+    ~NoteText() override;
+
+    void setCaption(const QString &caption);
+    void setInk(const QColor &ink);
+    /// Air around the text, the same for the text box.
+    static QMargins air();
+
+    QSize sizeHint() const override { return {0, 0}; }
+    QSize minimumSizeHint() const override { return {0, 0}; }
+
+signals:
+    void pressed(Qt::MouseButton button, QPoint globalPosition);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct Paragraph
+    {
+        std::unique_ptr<QTextLayout> layout;
+        qreal top = 0;
+        qreal height = 0;
+    };
+
+    void forget();
+    /// Lays out paragraphs from the first on until one ends below `bottom`.
+    void layOutTo(qreal bottom);
+    Paragraph laidOut(const QString &text, qreal top) const;
+    qsizetype mostCharacters() const;
+
+    QString m_shown;
+    QColor m_ink = Qt::black;
+    std::vector<Paragraph> m_paragraphs;
+    qsizetype m_next = 0; ///< Where the first paragraph that is not laid out begins.
+    bool m_complete = false;
+    qreal m_height = 0; ///< Of what is laid out.
+    qreal m_scroll = 0;
+};

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/parts/NoteTextBox.h"
+
+#include "notes/parts/NoteText.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+
+namespace {
+constexpr qreal TabDistance = 80;
+}
+
+NoteTextBox::NoteTextBox(QWidget *parent) : QPlainTextEdit(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTabStopDistance(TabDistance);
+    setBackgroundVisible(false);
+    document()->setDocumentMargin(0);
+    setViewportMargins(NoteText::air());
+    setAccessibleName(tr("Text of the note"));
+}
+
+void NoteTextBox::setInk(const QColor &ink, const QColor &paper)
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::Text, ink);
+    colours.setColor(QPalette::Base, paper);
+    colours.setColor(QPalette::Window, paper);
+    setPalette(colours);
+}
+
+void NoteTextBox::setNoteText(const QString &text)
+{
+    m_original = text;
+    setPlainText(text);
+    document()->setModified(false);
+    moveCursor(QTextCursor::End);
+}
+
+QString NoteTextBox::noteText() const
+{
+    if (!document()->isModified())
+        return m_original;
+    QString text = document()->toRawText();
+    text.replace(QChar(QChar::ParagraphSeparator), QLatin1String("\r\n"));
+    text.replace(QChar(QChar::LineSeparator), QLatin1String("\r\n"));
+    return text;
+}
+
+void NoteTextBox::focusOutEvent(QFocusEvent *event)
+{
+    QPlainTextEdit::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason)
+        emit left();
+}
+
+void NoteTextBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        emit left();
+    else if (event->matches(QKeySequence::Redo) || event->keyCombination() == QKeyCombination(Qt::CTRL, Qt::Key_Y))
+        redo();
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}

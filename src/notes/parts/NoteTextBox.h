@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPlainTextEdit>
+
+/// The box in which a note's text is edited. It tells when it is left; whoever owns it then takes the text.
+class NoteTextBox final : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit NoteTextBox(QWidget *parent);
+
+    void setInk(const QColor &ink, const QColor &paper);
+    /// The text with CR LF as line ends; exactly the text that was put in as long as nobody changed it.
+    QString noteText() const;
+    /// Puts a text in, the caret after its last character.
+    void setNoteText(const QString &text);
+
+signals:
+    /// The box lost the focus to something other than its own menu, or Escape was pressed.
+    void left();
+
+protected:
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QString m_original;
+};

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/parts/NoteTitle.h"
+
+#include "notes/parts/TextShortening.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace {
+
+constexpr qreal TitlePoints = 9.5;
+constexpr int LabelIndent = 0;
+
+QFont titleFont()
+{
+    QFont font(QStringLiteral("Times New Roman"));
+    font.setStyleHint(QFont::Serif);
+    font.setPointSizeF(TitlePoints);
+    return font;
+}
+
+QPalette textPalette(QPalette palette, const QColor &ink, const QColor &paper)
+{
+    palette.setColor(QPalette::WindowText, ink);
+    palette.setColor(QPalette::Text, ink);
+    palette.setColor(QPalette::Base, paper);
+    return palette;
+}
+
+} // namespace
+
+TitleLabel::TitleLabel(const QString &name, QWidget *parent) : QLabel(parent)
+{
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setIndent(LabelIndent);
+    setFont(titleFont());
+}
+
+void TitleLabel::setInk(const QColor &ink)
+{
+    setPalette(textPalette(palette(), ink, palette().color(QPalette::Base)));
+}
+
+void TitleLabel::mousePressEvent(QMouseEvent *event)
+{
+    event->setAccepted(event->button() == Qt::LeftButton);
+    if (event->isAccepted())
+        emit pressed(event->globalPosition().toPoint());
+}
+
+void TitleLabel::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons().testFlag(Qt::LeftButton))
+        emit dragged(event->globalPosition().toPoint());
+}
+
+void TitleLabel::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        emit released();
+}
+
+void TitleLabel::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        emit doubleClicked();
+}
+
+NoteTitle::NoteTitle(QWidget *strip) : QObject(strip), m_label(new TitleLabel(QStringLiteral("lblTitle"), strip)) {}
+
+void NoteTitle::setGeometry(const QRect &rect)
+{
+    m_label->setGeometry(rect);
+    if (m_editor != nullptr)
+        m_editor->setGeometry(rect);
+    showFitting();
+}
+
+void NoteTitle::setVisible(bool visible)
+{
+    m_visible = visible;
+    m_label->setVisible(visible && !m_editing);
+    if (m_editor != nullptr)
+        m_editor->setVisible(visible && m_editing);
+}
+
+void NoteTitle::setInk(const QColor &ink, const QColor &paper)
+{
+    m_ink = ink;
+    m_paper = paper;
+    m_label->setInk(ink);
+    if (m_editor != nullptr)
+        m_editor->setPalette(textPalette(m_editor->palette(), ink, paper));
+}
+
+void NoteTitle::setTitle(const QString &title)
+{
+    m_title = title;
+    showFitting();
+}
+
+void NoteTitle::showFitting()
+{
+    m_label->setText(textShortening::shortened(m_title, m_label->width(), m_label->font()));
+}
+
+void NoteTitle::makeEditor()
+{
+    m_editor = new QLineEdit(m_label->parentWidget());
+    m_editor->setObjectName(QStringLiteral("txtTitle"));
+    m_editor->setAccessibleName(tr("Title of the note"));
+    m_editor->setFrame(false);
+    m_editor->setFont(m_label->font());
+    m_editor->setTextMargins(-2, 0, 0, 0);
+    m_editor->setMaxLength(INT_MAX);
+    m_editor->setGeometry(m_label->geometry());
+    m_editor->installEventFilter(this);
+    m_editor->setPalette(textPalette(m_editor->palette(), m_ink, m_paper));
+}
+
+void NoteTitle::beginEditing(const QString &text)
+{
+    if (m_editor == nullptr)
+        makeEditor();
+    m_editing = true;
+    m_editor->setText(text);
+    setVisible(m_visible);
+    m_editor->setFocus(Qt::OtherFocusReason);
+    m_editor->selectAll();
+}
+
+void NoteTitle::closeEditor()
+{
+    m_editing = false;
+    setVisible(m_visible);
+}
+
+void NoteTitle::endEditing()
+{
+    if (!m_editing)
+        return;
+    const QString text = m_editor->text();
+    closeEditor();
+    emit edited(text);
+}
+
+void NoteTitle::giveUp()
+{
+    if (m_editing)
+        closeEditor();
+}
+
+bool NoteTitle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_editor && event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason) {
+        // The line edit itself handles the event first; its owner may open a box.
+        QMetaObject::invokeMethod(this, &NoteTitle::endEditing, Qt::QueuedConnection);
+    } else if (watched == m_editor && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Escape)
+            giveUp();
+        else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            endEditing();
+        else
+            return false;
+        return true;
+    }
+    return false;
+}

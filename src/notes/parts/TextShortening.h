@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+namespace textShortening {
+
+/// The text itself where it is not wider than `maxWidth` pixels in the font; else its longest beginning that fits
+/// with "..." behind it; "..." when not even that fits. Measures no more of a long text than could fit.
+QString shortened(const QString &text, int maxWidth, const QFont &font);
+
+} // namespace textShortening

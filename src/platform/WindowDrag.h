@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPoint>
+#include <QPointer>
+#include <QRect>
+#include <QSize>
+#include <QWidget>
+
+/// Moves or sizes a frameless window while the left button is held. Done by hand where the place of a window is the
+/// program's to set (no snapping, exact places), by the window system where it is not. Feed it the mouse events of
+/// whatever the window is held by.
+class WindowDrag
+{
+public:
+    /// What is held, numbered as window systems number the parts of a window's frame.
+    enum class HitTest {
+        Caption = 2,
+        Left = 10,
+        Right = 11,
+        Top = 12,
+        TopLeft = 13,
+        TopRight = 14,
+        Bottom = 15,
+        BottomLeft = 16,
+        BottomRight = 17
+    };
+
+    explicit WindowDrag(QWidget &window) : m_window(&window) {}
+
+    /// Smallest size, in pixels, that a drag gives the window, and whether its height may change.
+    void setLimits(QSize smallest, bool heightFixed);
+
+    void press(HitTest held, QPoint globalPosition);
+    /// True when the window's place or size changed.
+    bool move(QPoint globalPosition);
+    /// True when something was dragged since the press.
+    bool release();
+    bool isActive() const { return m_active; }
+
+    static Qt::CursorShape cursorFor(HitTest held);
+
+private:
+    QRect dragged(QPoint by) const;
+
+    QPointer<QWidget> m_window;
+    QSize m_smallest{1, 1};
+    bool m_heightFixed = false;
+    bool m_active = false;
+    bool m_dragged = false;
+    HitTest m_held = HitTest::Caption;
+    QPoint m_from;
+    QRect m_start;
+};

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWidget;
+
+/// What Qt leaves to the window manager: staying on top, coming to the front, staying out of the task bar.
+namespace windowStacking {
+
+/// In or out of the band of windows above all others; neither hides the window nor moves the focus.
+void SetWindowOnTop(QWidget &window, bool onTop);
+/// To the front of its band, at once, without the focus, also while another program has it.
+void bringForward(QWidget &window);
+/// To the front and with the focus.
+void SetForegroundWindow(QWidget &window);
+/// Keeps the window out of the task bar and the window switcher; to be said after every show.
+void skipTaskBar(QWidget &window);
+
+} // namespace windowStacking

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/common/Form.h"
+
+#include <QDialog>
+
+class Program;
+class QLabel;
+class QLineEdit;
+
+/// Asks for a note's password. It compares only when its caller asks, and forgets what was typed when it goes.
+class frmEnterPwd final : public QDialog, public Form
+{
+    Q_OBJECT
+
+public:
+    static constexpr QStringView Name = u"frmEnterPwd";
+
+    frmEnterPwd(Program &program, QWidget *owner);
+    ~frmEnterPwd() override;
+
+    void Initialize(const QString &description);
+    /// True when OK was chosen and what was typed is exactly the stored password; Cancel is never a right password.
+    bool passOn(const QString &stored) const;
+    /// Pixels that the description has, and its font, for callers that shorten a title to it.
+    int descriptionWidth() const;
+    QFont descriptionFont() const;
+
+    QWidget *window() override { return this; }
+
+protected:
+    void accept() override;
+    void reject() override;
+
+private:
+    Program &m_program;
+    QLabel *m_desc;
+    QLineEdit *m_entry;
+    QString m_typed;
+    bool m_accepted = false;
+};

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <vector>
+
+class Form;
+
+/// Names of the forms that others look for.
+namespace formNames {
+inline constexpr QStringView Note = u"frmNote";
+inline constexpr QStringView NoteStack = u"frmNoteStack";
+inline constexpr QStringView Menu = u"frmMenu";
+inline constexpr QStringView Splash = u"frmSplash";
+inline constexpr QStringView Status = u"frmStatus";
+} // namespace formNames
+
+/// The loaded forms in the order of loading. Whoever walks them while events run takes a copy and asks `isLoaded`.
+class Forms
+{
+public:
+    std::vector<Form *> loaded() const { return m_loaded; }
+    bool isLoaded(const Form *form) const;
+    /// The first form of that name, or null.
+    Form *find(QStringView formName) const;
+    /// The note windows on the desktop: forms named "frmNote" that have a note.
+    std::vector<Form *> notes() const;
+    /// The window of the note with this tag, or null.
+    Form *note(qint32 tag) const;
+
+private:
+    friend class Form;
+
+    void add(Form *form) { m_loaded.push_back(form); }
+    void remove(Form *form);
+
+    std::vector<Form *> m_loaded;
+};

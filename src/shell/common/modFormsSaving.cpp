@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "platform/Prompts.h"
+#include "shell/common/Program.h"
+#include "shell/common/frmStatus.h"
+#include "shell/common/modForms.h"
+
+#include <QCoreApplication>
+
+namespace modForms {
+namespace {
+
+int notesInStack(const Program &program)
+{
+    const Form *stack = program.forms.find(formNames::NoteStack);
+    return stack != nullptr ? stack->noteCount() : 0;
+}
+
+void commitAll(Program &program)
+{
+    for (Form *form : program.forms.loaded())
+        form->commitEditing();
+}
+
+void tellFailure(Program &program, const QString &reason)
+{
+    if (std::exchange(program.saveFailureTold, true))
+        return;
+    const QString text = QCoreApplication::translate("Saving", "The Quillets could not be saved.\n%1\n"
+                                                               "Nothing is lost as long as the program runs; it will "
+                                                               "try again at the next save.");
+    program.prompts().tell({text.arg(reason), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
+}
+
+/// The notes that one save-all has put into the image. When the write at its end fails they count as changed again.
+class SaveRun
+{
+public:
+    explicit SaveRun(Program &program) : m_program(program), m_batch(program.file) {}
+
+    /// Saves one form and remembers its note.
+    void save(Form *form)
+    {
+        if (const clsNoteProps *note = form->GetThisNoteProps(); note != nullptr && note->SaveTag == 1)
+            m_tags.push_back(note->Tag);
+        form->SaveThisNote();
+    }
+
+    void saveStack()
+    {
+        if (Form *stack = m_program.forms.find(formNames::NoteStack))
+            stack->SaveThisStackSys();
+    }
+
+    void finish()
+    {
+        const auto outcome = m_batch.end();
+        if (outcome) {
+            m_program.saveFailureTold = false;
+            return;
+        }
+        for (Form *form : m_program.forms.loaded())
+            for (const qint32 tag : m_tags)
+                form->markUnsaved(tag);
+        tellFailure(m_program, outcome.error());
+    }
+
+private:
+    Program &m_program;
+    SaveBatch m_batch;
+    std::vector<qint32> m_tags;
+};
+
+std::unique_ptr<frmStatus> showStatus(Program &program, const QString &caption, const QString &text, int total)
+{
+    auto status = std::make_unique<frmStatus>(program);
+    status->setWindowTitle(caption);
+    status->Initialize(text, total);
+    status->show();
+    return status;
+}
+
+} // namespace
+
+void saveNote(Program &program, clsNoteProps &note)
+{
+    if (note.SaveTag != 1)
+        return;
+    using enum WriteResult::Kind;
+    const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, true);
+    if (result.kind == Written || result.kind == Batched)
+        note.SaveTag = 0;
+    if (result.kind == Written)
+        program.saveFailureTold = false;
+    if (result.kind == Failed)
+        tellFailure(program, result.reason);
+}
+
+void removeNote(Program &program, const clsNoteProps &note)
+{
+    const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, false);
+    if (result.kind == WriteResult::Kind::Failed)
+        tellFailure(program, result.reason);
+}
+
+bool SaveAllNotes(Program &program)
+{
+    if (program.file.LoadingData)
+        return false;
+    program.SaveProgress = 0;
+    commitAll(program);
+    const auto notes = program.forms.notes();
+    if (notes.empty() && notesInStack(program) == 0 && !program.file.unsaved)
+        return false;
+    SaveRun run(program);
+    for (Form *note : notes)
+        run.save(note);
+    run.saveStack();
+    run.finish();
+    return true;
+}
+
+bool SaveAllWithProgress(Program &program)
+{
+    if (program.file.LoadingData)
+        return false;
+    program.SaveProgress = 0;
+    commitAll(program);
+    const auto notes = program.forms.notes();
+    const int total = static_cast<int>(notes.size()) + notesInStack(program);
+    if (total == 0 && !program.file.unsaved)
+        return false;
+    const auto status = showStatus(program, QCoreApplication::translate("Saving", "Saving ... - Quillets"),
+                                   QCoreApplication::translate("Saving", "Saving quillets ..."), total);
+    SaveRun run(program);
+    for (Form *note : notes) {
+        QCoreApplication::processEvents();
+        if (status->Cancelled)
+            break;
+        if (!program.forms.isLoaded(note))
+            continue;
+        run.save(note);
+        status->setValue(++program.SaveProgress);
+    }
+    if (!status->Cancelled)
+        run.saveStack();
+    status->hide();
+    run.finish();
+    return true;
+}
+
+void TransferAllToNoteStack(Program &program)
+{
+    const auto notes = program.forms.notes();
+    if (notes.empty())
+        return;
+    const auto status = showStatus(
+        program, QCoreApplication::translate("Saving", "Transferring ... - Quillets"),
+        QCoreApplication::translate("Saving", "Transferring all Quillets to NoteStack ..."), static_cast<int>(notes.size()));
+    SaveBatch batch(program.file);
+    int moved = 0;
+    for (Form *note : notes) {
+        QCoreApplication::processEvents();
+        if (status->Cancelled)
+            break;
+        if (!program.forms.isLoaded(note))
+            continue;
+        note->ToTheNoteStack();
+        status->setValue(++moved);
+    }
+    status->hide();
+    if (const auto outcome = batch.end(); !outcome)
+        tellFailure(program, outcome.error());
+}
+
+} // namespace modForms

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "shell/modInit.h"
+
+#include "notes/modCreateNote.h"
+#include "notestack/StackShelf.h"
+#include "platform/Choosers.h"
+#include "platform/Clock.h"
+#include "platform/DisplayPlatform.h"
+#include "platform/EndSignals.h"
+#include "platform/MessageBoxes.h"
+#include "platform/SingleInstance.h"
+#include "platform/WindowStacking.h"
+#include "shell/common/modForms.h"
+#include "shell/common/modTimers.h"
+#include "shell/frmMenu.h"
+#include "shell/frmSplash.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+
+using namespace std::chrono_literals;
+
+namespace modInit {
+namespace {
+
+constexpr qint32 DesignBackColor = 0x0000FFFF;
+constexpr qint32 DesignForeColor = static_cast<qint32>(0x80000012);
+constexpr auto BeforeRestore = 100ms;
+constexpr QSize PanelDesignSize(4440, 3540);
+
+void tellFatal(Prompts &prompts, const QString &text)
+{
+    prompts.tell({text, QStringLiteral("Fatal Program Error"), Message::Icon::Critical}, nullptr);
+}
+
+DesignLook designLook()
+{
+    const QFont font = QApplication::font();
+    return {DesignBackColor, DesignForeColor, font.family(), static_cast<float>(font.pointSizeF())};
+}
+
+/// Switches an option off, with a box, whose file is not there.
+void checkFile(Program &program, bool &on, const QString &path, const QString &before, const QString &disabling)
+{
+    if (!on || QFileInfo(path).isFile())
+        return;
+    program.prompts().tell(
+        {before + path + QStringLiteral(" could not be found.") + u'\n' + disabling, QStringLiteral("File Not Found"),
+         Message::Icon::Critical},
+        nullptr);
+    on = false;
+}
+
+void nameApplication()
+{
+    QApplication::setApplicationName(QStringLiteral("quillets"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Quillets"));
+    QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.quillets.Quillets"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+/// What ends the program from outside saves the notes first.
+void saveWhenEnded(Program &program, EndSignals &signals_)
+{
+    QObject::connect(&signals_, &EndSignals::endRequested, qApp, [&program] {
+        modForms::SaveAllNotes(program);
+        program.Exiting = true;
+        modForms::CloseAllWindows(program);
+        QCoreApplication::quit();
+    });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
+                     [&program](QSessionManager &) { modForms::SaveAllNotes(program); });
+}
+
+void showPanel(Program &program, frmSplash &splash, frmMenu &panel)
+{
+    splash.hide();
+    panel.show();
+    windowStacking::SetForegroundWindow(panel);
+    splash.unload();
+    modForms::SaveAllNotes(program);
+}
+
+int run(Program &program)
+{
+    auto *splash = new frmSplash(program);
+    splash->setStatus(QStringLiteral("Loading program ... "));
+    splash->show();
+    prepareDataFolder(program);
+    splash->setStatus(QStringLiteral("Setting program wide defaults ... "));
+    loadOptions(program);
+    const QPointer<frmMenu> panel = new frmMenu(program);
+    modForms::ScaleForm(*panel, PanelDesignSize);
+    splash->setStatus(QStringLiteral("Loading program components... "));
+    StackShelf shelf(program);
+    EndSignals endSignals;
+    saveWhenEnded(program, endSignals);
+    splash->setStatus(QStringLiteral("Reading data file ... "));
+    restoreNotes(program, splash);
+    modTimers::SetAutoSave(program, true);
+    showPanel(program, *splash, *panel);
+    const int result = program.Exiting ? 0 : QApplication::exec();
+    delete panel;
+    return result;
+}
+
+} // namespace
+
+bool checkComponents(Program &program)
+{
+    if (QFileInfo(program.paths().ImagesFolder).isDir())
+        return true;
+    tellFatal(program.prompts(), QStringLiteral("Certain program components could not be found.\nPlease re-install."));
+    return false;
+}
+
+void prepareDataFolder(Program &program)
+{
+    const QString folder = program.paths().DataFolder;
+    constexpr auto OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    const bool there = QFileInfo(folder).isDir() || QDir().mkdir(folder);
+    if (there) {
+        QFile::setPermissions(folder, OwnerOnly);
+        return;
+    }
+    const QString text = QCoreApplication::translate(
+        "modInit", "The folder %1 could not be created.\nNotes cannot be saved until it can be.");
+    program.prompts().tell({text.arg(folder), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
+}
+
+void loadOptions(Program &program)
+{
+    program.DefaultOptions = modFileIO::SetProgramDefaults(program.paths(), designLook());
+    program.ProgramOptions = program.DefaultOptions;
+    clsprogramoptions &options = program.ProgramOptions;
+    modFileIO::LoadOptionsFile(program.paths(), options);
+    checkFile(program, options.SoundFileOn, options.SoundFile, QStringLiteral("The sound "),
+              QStringLiteral("Disabling sound file."));
+    checkFile(program, options.BackPicOn, options.PicFile, QStringLiteral("The image "),
+              QStringLiteral("Disabling image file."));
+    program.BuildNoteDefaults();
+}
+
+void restoreNotes(Program &program, frmSplash *splash)
+{
+    const auto create = [&program](clsNoteProps &&note) {
+        const bool toNoteStack = note.NoteStackOn;
+        return modCreateNote::CreateNote(program, std::move(note), toNoteStack, NoteCreateMode::Load);
+    };
+    const auto tell = [splash](int k, int n) {
+        if (splash != nullptr)
+            splash->setStatus(QStringLiteral("Loading previously saved data ... (%1 of %2)").arg(k).arg(n));
+    };
+    const LoadReport report =
+        modFileIO::LoadDataFile(program.file, program.NoteTemplate, modCreateNote::MostNotes - program.NoteCounter, create,
+                                tell, [] { modTimers::Wait(BeforeRestore); }, program.clock().now());
+    if (report.overLimit > 0)
+        modCreateNote::tellLimit(program);
+    if (!report.problem.isEmpty())
+        program.prompts().tell({report.problem, QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
+}
+
+void ExitProgram(Program &program)
+{
+    Form *panel = program.forms.find(formNames::Menu);
+    if (program.Exiting || program.file.LoadingData)
+        return;
+    if (panel != nullptr)
+        windowStacking::SetForegroundWindow(*panel->window());
+    modForms::SaveAllNotes(program);
+    if (program.file.unsaved) {
+        const QString text = QCoreApplication::translate(
+            "modInit", "Some changes could not be saved and will be lost.\nEnd the program all the same?");
+        if (program.prompts().ask({text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel},
+                                  panel != nullptr ? panel->window() : nullptr) != Prompts::Answer::Ok)
+            return;
+    }
+    program.Exiting = true;
+    modForms::CloseAllWindows(program);
+    if (panel != nullptr)
+        panel->unload();
+    QCoreApplication::quit();
+}
+
+int Main(int argc, char *argv[])
+{
+    displayPlatform::preferX11();
+    QApplication app(argc, argv);
+    displayPlatform::forgetPreference();
+    nameApplication();
+    MessageBoxes early;
+    SingleInstance instance;
+    if (!instance.acquire()) {
+        tellFatal(early, QStringLiteral("You cannot have more than one instance of Quillets running."));
+        return 1;
+    }
+    const ProgramPaths paths = ProgramPaths::under(QCoreApplication::applicationDirPath(), QDir::currentPath());
+    Services services{std::make_unique<SystemClock>(), std::make_unique<MessageBoxes>(), std::make_unique<DesktopChoosers>(),
+                      Pictures(paths.ImagesFolder)};
+    Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
+    if (!checkComponents(program))
+        return 1;
+    QApplication::setWindowIcon(program.pictures().programIcon());
+    return run(program);
+}
+
+} // namespace modInit

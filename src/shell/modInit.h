@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/common/Program.h"
+
+class frmSplash;
+
+/// Start-up and shut-down.
+namespace modInit {
+
+/// The process from its entry to its end; the result is the exit code.
+int Main(int argc, char *argv[]);
+
+/// Saves all notes, closes every window and ends the program. Asks first when notes could not be saved.
+void ExitProgram(Program &program);
+
+// The steps of start-up that work on the program's state.
+
+/// False, after a box, when the pictures are not beside the program.
+bool checkComponents(Program &program);
+/// The data folder, made where it is missing, its owner's alone.
+void prepareDataFolder(Program &program);
+/// The built-in defaults, the options file over them, and the check of the files they name.
+void loadOptions(Program &program);
+/// Restores the notes of the data file; the splash window, if there is one, tells how far it is.
+void restoreNotes(Program &program, frmSplash *splash);
+
+} // namespace modInit
