@@ -233,6 +233,8 @@ void modStreams::WriteSingle(float value, qsizetype &position, QByteArray &buffe
 void modStreams::WriteString(QStringView value, qsizetype &position, QByteArray &buffer)
 {
     WriteLong(static_cast<qint32>(value.size() * UnitLength), position, buffer);
+    if (value.isEmpty())
+        return;
     growTo(position + value.size() * UnitLength, buffer);
     qToLittleEndian<quint16>(value.utf16(), value.size(), buffer.data() + position);
     position += value.size() * UnitLength;

@@ -7,6 +7,8 @@
 namespace {
 
 constexpr qreal DatePoints = 7.0;
+constexpr qsizetype ShortestDate = 8;
+constexpr qsizetype LongestDate = 200;
 
 struct ButtonRow
 {
@@ -60,14 +62,15 @@ void NoteToolbar::layOut(const NoteLayout &layout)
     showFitting();
 }
 
-/// The date loses its later words before it is cut.
+/// The date loses its later words, the time, before it is left out.
 void NoteToolbar::showFitting()
 {
     const QFontMetrics metrics(m_edit->font());
-    QString text = m_editing ? tr("Editing ...") : m_date;
+    QString text = m_editing ? tr("Editing ...") : m_date.left(LongestDate);
     while (!text.isEmpty() && metrics.horizontalAdvance(text) > m_edit->width())
         text.truncate(qMax(qsizetype(0), text.lastIndexOf(QLatin1Char(' '))));
-    m_edit->setText(text);
+    const bool tellsSomething = text.size() >= ShortestDate || text == m_date;
+    m_edit->setText(tellsSomething ? text : QString());
     m_edit->setToolTip(m_date);
 }
 

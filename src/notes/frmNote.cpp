@@ -31,6 +31,8 @@ frmNote::frmNote(Program &program)
     setObjectName(formName());
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     makeTitleBar();
     m_placeTimer.setSingleShot(true);
     m_placeTimer.setInterval(PlaceSettles);
@@ -45,6 +47,7 @@ void frmNote::makeTitleBar()
     m_titleBar = new QWidget(this);
     m_titleBar->setObjectName(QStringLiteral("fraTitleBar"));
     m_title = new NoteTitle(m_titleBar);
+    m_title->label().setCursor(m_program.pictures().cursor(QStringLiteral("handbefore.ico")));
     m_menu = new PictureButton(m_program.pictures(), QStringLiteral("imgMenu"), m_titleBar);
     m_menu->setPictures(QStringLiteral("menuup.gif"), QStringLiteral("menudown.gif"));
     m_menu->setCaption(tr("Menu"));

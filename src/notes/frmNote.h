@@ -37,6 +37,8 @@ public:
     void InitiateNote(clsNoteProps record);
     void RemoveToolBar();
     void placeAt(const QRect &geometry);
+    /// Stores the place where a note without one has opened, so that it opens there again.
+    void keepFirstPlace();
     void ApplyNoteAppearance();
     void ApplyNoteState(NoteCreateMode mode);
     void SetFocusToTitleBar();

@@ -9,7 +9,6 @@
 #include "platform/WindowStacking.h"
 #include "shell/common/Program.h"
 
-#include <QCursor>
 #include <QMoveEvent>
 
 #include <cmath>
@@ -35,6 +34,14 @@ void frmNote::placeAt(const QRect &geometry)
     resize(geometry.size());
     if (!displayPlatform::hidesPlaces())
         move(geometry.topLeft());
+}
+
+void frmNote::keepFirstPlace()
+{
+    if (m_record.FrmLeft == 0.0F && m_record.FrmTop == 0.0F && !displayPlatform::hidesPlaces()) {
+        m_record.FrmLeft = m_program.twips.fromPixels(x());
+        m_record.FrmTop = m_program.twips.fromPixels(y());
+    }
 }
 
 void frmNote::RemoveToolBar()
@@ -92,13 +99,13 @@ void frmNote::placeChanged()
 void frmNote::startMove(QPoint globalPosition)
 {
     m_body->commit();
-    m_title->label().setCursor(QCursor(QPixmap(m_program.pictures().path(QStringLiteral("handafter.ico")))));
+    m_title->label().setCursor(m_program.pictures().cursor(QStringLiteral("handafter.ico")));
     m_drag.press(WindowDrag::HitTest::Caption, globalPosition);
 }
 
 void frmNote::endMove()
 {
-    m_title->label().setCursor(QCursor(QPixmap(m_program.pictures().path(QStringLiteral("handbefore.ico")))));
+    m_title->label().setCursor(m_program.pictures().cursor(QStringLiteral("handbefore.ico")));
     if (m_drag.release())
         storePlace();
 }

@@ -66,6 +66,7 @@ void showNote(Program &program, frmNote &note, NoteCreateMode mode)
     if (modForms::IsDialogShowing(program))
         return;
     note.show();
+    note.keepFirstPlace();
     if (mode != NoteCreateMode::New)
         return;
     windowStacking::SetForegroundWindow(note);

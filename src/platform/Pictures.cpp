@@ -69,6 +69,16 @@ QPixmap Pictures::coloured(const QString &fileName, qreal devicePixelRatio) cons
     return pixmap;
 }
 
+QCursor Pictures::cursor(const QString &fileName) const
+{
+    auto known = m_cursors.constFind(fileName);
+    if (known == m_cursors.constEnd()) {
+        const QPixmap shape(path(fileName));
+        known = m_cursors.insert(fileName, shape.isNull() ? QCursor(Qt::OpenHandCursor) : QCursor(shape));
+    }
+    return *known;
+}
+
 QIcon Pictures::programIcon() const
 {
     QIcon icon;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QColor>
+#include <QCursor>
+#include <QHash>
 #include <QIcon>
 #include <QPixmap>
 #include <QString>
@@ -21,9 +23,12 @@ public:
     /// Path of a file of the pictures' folder.
     QString path(const QString &fileName) const { return m_folder + QLatin1Char('/') + fileName; }
     QIcon programIcon() const;
+    /// A pointer shape, held by its middle.
+    QCursor cursor(const QString &fileName) const;
 
 private:
     QString pathFor(const QString &fileName, int scale) const;
 
     QString m_folder;
+    mutable QHash<QString, QCursor> m_cursors;
 };

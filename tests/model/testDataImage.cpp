@@ -109,11 +109,11 @@ void testDataImage::foreignRecordsStayLast()
     QVERIFY(image.put(7, "new").ok());
     image.keepLoaded(3, "old");
     QVERIFY(!image.remove(1));
-    const QByteArray expected = QByteArray::fromHex("4800000004000000"
-                                                    "070000004600000003000000"
-                                                    "030000004300000003000000"
-                                                    "000000003e00000005000000"
-                                                    "000000003800000006000000") +
+    const QByteArray expected = QByteArray::fromHex("4900000004000000"
+                                                    "070000004700000003000000"
+                                                    "030000004400000003000000"
+                                                    "000000003f00000005000000"
+                                                    "000000003900000006000000") +
                                 "secondfirstoldnew";
     QCOMPARE(image.bytes().toHex(' '), expected.toHex(' '));
 }
@@ -131,10 +131,10 @@ void testDataImage::sayingTheSameChangesNothing()
 
 void testDataImage::refusesToGrowTooLarge()
 {
-    const QByteArray half(0x3FFFFFF0, Qt::Uninitialized);
+    const QByteArray half(0x3FFFFFE0, Qt::Uninitialized);
     DataImage image;
     QVERIFY(image.put(1, half).ok() && image.put(2, half).ok());
-    QVERIFY(!image.put(3, "just too much").ok());
+    QVERIFY(!image.put(3, "just a little more than fits").ok());
     QVERIFY(image.put(2, half.first(100)).ok());
     QVERIFY(image.put(3, "fits now").ok());
 }

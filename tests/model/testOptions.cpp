@@ -100,11 +100,10 @@ void testOptions::refusedValuesChangeNothing_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
-    for (const auto *key :
-         {u"Height", u"Font Size", u"Text Color", u"Listening Port", u"Toolbar", u"Prompt For New Title"})
-        for (const auto *value : {u"", u"nan", u"-inf", u"1e999", u"4,5", u"0x10", u"12 apples", u"Tru", u"\u0661"})
-            QTest::addRow("%s = %s", qPrintable(QString(key)), qPrintable(QString(value)))
-                << QString(key) << QString(value);
+    for (const QString &key : {u"Height"_s, u"Font Size"_s, u"Text Color"_s, u"Listening Port"_s, u"Toolbar"_s})
+        for (const QString &value :
+             {u""_s, u"nan"_s, u"-inf"_s, u"1e999"_s, u"4,5"_s, u"0x10"_s, u"12 apples"_s, u"Tru"_s, u"\u0661"_s})
+            QTest::addRow("%s = %s", qPrintable(key), qPrintable(value)) << key << value;
     QTest::newRow("Long too large") << u"Text Color"_s << u"2147483647.5"_s;
     QTest::newRow("Single too large") << u"Width"_s << u"3.5e38"_s;
     QTest::newRow("unknown key") << u"Colour"_s << u"1"_s;
