@@ -98,7 +98,10 @@ void NoteBody::BeginTextEditing(const QString &text)
         makeTextBox();
     m_editing = true;
     showLayers();
-    m_textBox->setNoteText(text);
+    // The text it still holds keeps its history: what was typed or pasted before can be undone.
+    if (m_textBox->noteText() != text)
+        m_textBox->setNoteText(text);
+    m_textBox->moveCursor(QTextCursor::End);
     m_textBox->setFocus(Qt::MouseFocusReason);
     emit editingChanged(true);
 }
@@ -111,15 +114,26 @@ void NoteBody::commit()
     const QString text = m_textBox->noteText();
     setText(text);
     showLayers();
-    m_textBox->setNoteText({});
     emit editingChanged(false);
     emit committed(text);
 }
 
-void NoteBody::replaceEditedText(const QString &text)
+void NoteBody::replaceText(const QString &former, const QString &text)
 {
+    if (m_textBox == nullptr)
+        makeTextBox();
+    if (m_textBox->noteText() != former)
+        m_textBox->setNoteText(former);
     QTextCursor cursor(m_textBox->document());
     cursor.select(QTextCursor::Document);
     cursor.insertText(text);
     m_textBox->moveCursor(QTextCursor::End);
+    setText(text);
+}
+
+void NoteBody::forgetText()
+{
+    setText({});
+    if (m_textBox != nullptr)
+        m_textBox->setNoteText({});
 }

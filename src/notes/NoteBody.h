@@ -30,8 +30,10 @@ public:
     bool isEditing() const { return m_editing; }
     /// Ends an edit that is under way and tells its text.
     void commit();
-    /// Replaces the text of an edit under way, undoable.
-    void replaceEditedText(const QString &text);
+    /// Replaces the whole text, undoable in the next edit.
+    void replaceText(const QString &former, const QString &text);
+    /// Nothing of the text is left in any widget.
+    void forgetText();
 
 signals:
     void textPressed(Qt::MouseButton button, QPoint globalPosition);

@@ -7,7 +7,6 @@
 #include "notes/ResizeHandles.h"
 #include "notes/parts/NoteTitle.h"
 #include "notes/parts/TextShortening.h"
-#include "platform/Prompts.h"
 #include "platform/WindowStacking.h"
 #include "security/noteLocks.h"
 #include "shell/common/Program.h"
@@ -20,7 +19,6 @@ using namespace std::chrono_literals;
 
 namespace {
 constexpr auto PlaceSettles = 300ms;
-constexpr int DeleteTitleWidth = 2000; // design twips
 } // namespace
 
 frmNote::frmNote(Program &program)
@@ -51,6 +49,7 @@ void frmNote::makeTitleBar()
     m_menu = new PictureButton(m_program.pictures(), QStringLiteral("imgMenu"), m_titleBar);
     m_menu->setPictures(QStringLiteral("menuup.gif"), QStringLiteral("menudown.gif"));
     m_menu->setCaption(tr("Menu"));
+    m_menu->setCommandsOnRelease(true);
     m_minimize = new PictureButton(m_program.pictures(), QStringLiteral("imgMinimize"), m_titleBar);
     m_minimize->setPictures(QStringLiteral("minimizeup.gif"), QStringLiteral("closeactive.gif"));
     m_minimize->setCaption(tr("Delete"));
@@ -66,12 +65,17 @@ void frmNote::connectParts()
     connect(&m_title->label(), &TitleLabel::released, this, &frmNote::endMove);
     connect(&m_title->label(), &TitleLabel::doubleClicked, this, &frmNote::scrollStep);
     connect(m_title, &NoteTitle::edited, this, &frmNote::titleEdited);
+    connect(m_menu, &PictureButton::pressedDown, this, [this] { m_pressedWhileOpen = m_menuOpen; });
+    connect(m_menu, &PictureButton::commanded, this, &frmNote::menuCommanded);
     connect(m_minimize, &PictureButton::commanded, this, &frmNote::deleteNote);
+    connect(m_exit, &PictureButton::commanded, this, &frmNote::exitCommanded);
     connect(m_toolbar, &NoteToolbar::commanded, this, &frmNote::commanded);
     connect(m_toolbar, &NoteToolbar::clickedElsewhere, this, &frmNote::EndTextEditing);
-    connect(m_body, &NoteBody::textPressed, this, [this](Qt::MouseButton button) {
+    connect(m_body, &NoteBody::textPressed, this, [this](Qt::MouseButton button, QPoint at) {
         if (button == Qt::LeftButton)
             beginTextEditing();
+        else
+            openShortMenu(at);
     });
     connect(m_body, &NoteBody::editingChanged, m_toolbar, &NoteToolbar::setEditing);
     connect(m_body, &NoteBody::committed, this, [this](const QString &text) {
@@ -149,28 +153,6 @@ void frmNote::RemoveFromDesktop()
     unload();
 }
 
-void frmNote::ToTheNoteStack() {}
-
-void frmNote::deleteNote()
-{
-    const QString shortTitle =
-        ShortenString(title(), Twips::design(DeleteTitleWidth), font().family(), font().pointSizeF());
-    const QPointer<frmNote> self = this;
-    const Message question{tr("Delete note '") + shortTitle + tr("' ?"), tr("Note Deletion"), Message::Icon::None,
-                           Message::Buttons::OkCancel};
-    if (m_program.prompts().ask(question, this) != Prompts::Answer::Ok || self == nullptr || isUnloaded())
-        return;
-    if (m_locked) {
-        m_program.prompts().tell({tr("You cannot delete a Quillet that is locked."), tr("Deletion Error"), Message::Icon::Critical},
-                                 this);
-        return;
-    }
-    const noteLocks::Refusal refusal{tr("Invalid authentication.  Quillet deletion failed."), tr("Deletion failed")};
-    if (noteLocks::checkReadOnly(m_program, m_record, noteLocks::readOnlyDescription(), refusal, this) &&
-        self != nullptr && !isUnloaded())
-        RemoveFromDesktop();
-}
-
 void frmNote::beginTextEditing()
 {
     const QPointer<frmNote> self = this;
@@ -188,21 +170,6 @@ void frmNote::EndTextEditing()
 {
     m_body->commit();
 }
-
-void frmNote::unlock()
-{
-    const QPointer<frmNote> self = this;
-    const QString shortTitle = textShortening::shortened(title(), Twips::design(DeleteTitleWidth) * 2, font());
-    const bool accepted = noteLocks::AuthenticateNote(m_program, u'\'' + shortTitle + u'\'', m_record.Pwd, this);
-    if (self == nullptr || isUnloaded())
-        return;
-    if (accepted)
-        ShowLockLayer(false);
-    else
-        m_program.prompts().tell({tr("Invalid password.  Access to note failed."), tr("Access failed")}, this);
-}
-
-void frmNote::commanded(NoteToolbar::Command) {}
 
 void frmNote::mousePressEvent(QMouseEvent *event)
 {

@@ -5,6 +5,7 @@
 #include "model/clsNoteProps.h"
 #include "notes/NoteLayout.h"
 #include "notes/NoteToolbar.h"
+#include "notes/commands/NoteMenu.h"
 #include "notes/parts/NoteInk.h"
 #include "platform/WindowDrag.h"
 #include "shell/common/Form.h"
@@ -16,6 +17,7 @@
 
 class LockOverlay;
 class NoteBody;
+class NoteMenu;
 class NoteTitle;
 class Program;
 class ResizeHandles;
@@ -60,7 +62,9 @@ public:
     void ThisFormLostFocus() override;
     void Destroy() override;
     void commitEditing() override;
+    bool hasUnsavedNotes() const override { return m_record.SaveTag == 1; }
     void markUnsaved(qint32 tag) override;
+    clsNoteProps *recordOf(qint32 tag) override { return tag == m_record.Tag ? &m_record : nullptr; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -69,18 +73,33 @@ protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     // frmNote.cpp
     void makeTitleBar();
     void connectParts();
     void markChanged() { m_record.SaveTag = 1; }
-    void deleteNote();
     void RemoveFromDesktop();
     void beginTextEditing();
     void EndTextEditing();
-    void unlock();
+
+    // frmNoteCommands.cpp
+    NoteMenu *makeMenu(const QString &name, std::span<const MenuEntry> entries);
+    void menuCommanded();
+    void showMenuState();
+    void openShortMenu(QPoint globalPosition);
     void commanded(NoteToolbar::Command command);
+    void run(NoteCommand command);
+    void toggleOnTop();
+    void paste();
+    void print();
+    void exitCommanded();
+    void deleteNote();
+    void unlock();
+    /// The title as texts about the note show it.
+    QString shortTitle() const;
 
     // frmNoteDressing.cpp
     void dressColours();
@@ -119,6 +138,10 @@ private:
     LockOverlay *m_overlay = nullptr;
     ResizeHandles *m_handles = nullptr;
     QTimer m_placeTimer; ///< Waits until a window that is being moved has come to rest.
+    NoteMenu *m_noteMenu = nullptr;  // mnuPopupIco
+    NoteMenu *m_shortMenu = nullptr; // mnuPopup
+    bool m_menuOpen = false;
+    bool m_pressedWhileOpen = false; ///< The press on the menu's picture that closed the menu.
     bool m_locked = false;
     bool m_ready = false;
     bool m_closing = false;

@@ -159,7 +159,10 @@ void frmNote::ShowLockLayer(bool locked)
         m_body->commit();
     }
     m_locked = locked;
-    m_body->setText(locked ? QString() : m_record.Data);
+    if (locked)
+        m_body->forgetText();
+    else
+        m_body->setText(m_record.Data);
     m_exit->setVisible(!locked);
     m_minimize->setVisible(!locked);
     m_overlay->setVisible(locked);

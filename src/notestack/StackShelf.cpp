@@ -29,6 +29,11 @@ void StackShelf::SaveThisStackSys()
         modForms::saveNote(m_program, note);
 }
 
+bool StackShelf::hasUnsavedNotes() const
+{
+    return std::any_of(m_notes.begin(), m_notes.end(), [](const clsNoteProps &note) { return note.SaveTag == 1; });
+}
+
 void StackShelf::markUnsaved(qint32 tag)
 {
     for (clsNoteProps &note : m_notes)

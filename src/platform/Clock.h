@@ -3,21 +3,57 @@
 #pragma once
 
 #include <QDateTime>
+#include <QObject>
 
-/// The time of day as the program sees it; tests set it by hand.
-class Clock
+#include <memory>
+
+/// Goes off once, at a moment of the wall clock: neither the sleep of the computer nor a change of its clock puts it
+/// off. It always goes off from the event loop, also for a moment that is past when it is started.
+class WallAlarm : public QObject
 {
-public:
-    Clock() = default;
-    Clock(const Clock &) = delete;
-    Clock &operator=(const Clock &) = delete;
-    virtual ~Clock() = default;
+    Q_OBJECT
 
-    virtual QDateTime now() const = 0;
+public:
+    using QObject::QObject;
+
+    /// Starts anew where it is running.
+    virtual void start(const QDateTime &moment) = 0;
+    virtual void stop() = 0;
+    virtual bool isRunning() const = 0;
+
+signals:
+    void due();
 };
 
+/// The time of day as the program sees it; tests set it by hand.
+class Clock : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    virtual QDateTime now() const = 0;
+    virtual std::unique_ptr<WallAlarm> makeAlarm() = 0;
+
+signals:
+    /// The clock was set, forward or back; alarms that run go by its new time already.
+    void clockSet();
+};
+
+/// The clock of the computer. It wakes nobody while no alarm is due and the clock is not set.
 class SystemClock final : public Clock
 {
+    Q_OBJECT
+
 public:
+    explicit SystemClock(QObject *parent = nullptr);
+    ~SystemClock() override;
+
     QDateTime now() const override;
+    std::unique_ptr<WallAlarm> makeAlarm() override;
+
+private:
+    class Watch;
+    std::unique_ptr<Watch> m_watch;
 };

@@ -42,6 +42,11 @@ void PictureButton::setPause(std::chrono::milliseconds pause)
     m_pause = pause;
 }
 
+void PictureButton::setCommandsOnRelease(bool onRelease)
+{
+    m_onRelease = onRelease;
+}
+
 void PictureButton::setCaption(const QString &caption)
 {
     setToolTip(caption);
@@ -50,6 +55,10 @@ void PictureButton::setCaption(const QString &caption)
 
 void PictureButton::beginPress()
 {
+    if (m_onRelease) {
+        emit commanded();
+        return;
+    }
     if (m_pressed)
         return;
     m_pressed = true;
@@ -67,13 +76,18 @@ void PictureButton::finishPress()
 void PictureButton::mousePressEvent(QMouseEvent *event)
 {
     event->setAccepted(event->button() == Qt::LeftButton);
-    if (event->isAccepted() && isEnabled())
+    if (!event->isAccepted() || !isEnabled())
+        return;
+    emit pressedDown();
+    if (!m_onRelease)
         beginPress();
 }
 
 void PictureButton::mouseReleaseEvent(QMouseEvent *event)
 {
     event->setAccepted(event->button() == Qt::LeftButton);
+    if (m_onRelease && event->isAccepted() && isEnabled() && rect().contains(event->position().toPoint()))
+        emit commanded();
 }
 
 void PictureButton::mouseMoveEvent(QMouseEvent *event)

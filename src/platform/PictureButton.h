@@ -25,12 +25,16 @@ public:
     void setInk(const QColor &ink);
     /// How long the pressed picture is shown before the command.
     void setPause(std::chrono::milliseconds pause);
+    /// Commands when the mouse button is let go, without a pause; for a button that opens a menu.
+    void setCommandsOnRelease(bool onRelease);
     /// Tooltip and accessible name.
     void setCaption(const QString &caption);
 
     QSize sizeHint() const override { return {16, 16}; }
 
 signals:
+    /// The left mouse button went down on the picture.
+    void pressedDown();
     void commanded();
 
 protected:
@@ -54,4 +58,5 @@ private:
     std::chrono::milliseconds m_pause{200};
     bool m_pressed = false;
     bool m_downAtRest = false;
+    bool m_onRelease = false;
 };

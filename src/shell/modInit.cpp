@@ -4,11 +4,13 @@
 
 #include "notes/modCreateNote.h"
 #include "notestack/StackShelf.h"
+#include "platform/Browser.h"
 #include "platform/Choosers.h"
 #include "platform/Clock.h"
 #include "platform/DisplayPlatform.h"
 #include "platform/EndSignals.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Printing.h"
 #include "platform/SingleInstance.h"
 #include "platform/WindowStacking.h"
 #include "shell/common/modForms.h"
@@ -171,7 +173,7 @@ void ExitProgram(Program &program)
     if (panel != nullptr)
         windowStacking::SetForegroundWindow(*panel->window());
     modForms::SaveAllNotes(program);
-    if (program.file.unsaved) {
+    if (modForms::hasUnsavedNotes(program)) {
         const QString text = QCoreApplication::translate(
             "modInit", "Some changes could not be saved and will be lost.\nEnd the program all the same?");
         if (program.prompts().ask({text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel},
@@ -199,7 +201,7 @@ int Main(int argc, char *argv[])
     }
     const ProgramPaths paths = ProgramPaths::under(QCoreApplication::applicationDirPath(), QDir::currentPath());
     Services services{std::make_unique<SystemClock>(), std::make_unique<MessageBoxes>(), std::make_unique<DesktopChoosers>(),
-                      Pictures(paths.ImagesFolder)};
+                      std::make_unique<SystemPrinting>(), std::make_unique<DesktopBrowser>(),                       Pictures(paths.ImagesFolder)};
     Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
     if (!checkComponents(program))
         return 1;

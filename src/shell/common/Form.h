@@ -43,10 +43,16 @@ public:
     virtual void TextLostFocus() {}
 
     // Hooks of both.
+    /// The record of the note with this tag when it lives in this form.
+    virtual clsNoteProps *recordOf(qint32) { return nullptr; }
+    /// Somebody has changed that record: show it, and arm its alarm, anew.
+    virtual void recordChanged(qint32) {}
     virtual void Destroy() {}
     virtual void ResetAlarms() {}
     /// Puts what is being typed into the record.
     virtual void commitEditing() {}
+    /// Some note of this form is not on the disk as it is.
+    virtual bool hasUnsavedNotes() const { return false; }
     /// A write failed: the note with this tag, if it is this form's, counts as changed again.
     virtual void markUnsaved(qint32) {}
 

@@ -58,6 +58,13 @@ Form *Forms::note(qint32 tag) const
     return found == all.end() ? nullptr : *found;
 }
 
+Form *Forms::holderOf(qint32 tag) const
+{
+    const auto found =
+        std::find_if(m_loaded.begin(), m_loaded.end(), [tag](Form *form) { return form->recordOf(tag) != nullptr; });
+    return found == m_loaded.end() ? nullptr : *found;
+}
+
 void Forms::remove(Form *form)
 {
     std::erase(m_loaded, form);

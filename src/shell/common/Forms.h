@@ -30,6 +30,8 @@ public:
     std::vector<Form *> notes() const;
     /// The window of the note with this tag, or null.
     Form *note(qint32 tag) const;
+    /// The form that the note with this tag lives in, or null.
+    Form *holderOf(qint32 tag) const;
 
 private:
     friend class Form;

@@ -3,8 +3,10 @@
 #include "shell/common/Program.h"
 
 #include "model/modCopyObject.h"
+#include "platform/Browser.h"
 #include "platform/Choosers.h"
 #include "platform/Clock.h"
+#include "platform/Printing.h"
 #include "platform/Prompts.h"
 
 #include <QLocale>

@@ -13,8 +13,10 @@
 
 #include <memory>
 
+class Browser;
 class Choosers;
 class Clock;
+class Printing;
 class Prompts;
 
 /// What the parts of the program are handed to reach the world outside; a test hands in its own.
@@ -23,6 +25,8 @@ struct Services
     std::unique_ptr<Clock> clock;
     std::unique_ptr<Prompts> prompts;
     std::unique_ptr<Choosers> choosers;
+    std::unique_ptr<Printing> printing;
+    std::unique_ptr<Browser> browser;
     Pictures pictures;
 };
 
@@ -39,6 +43,8 @@ public:
     Clock &clock() { return *m_services.clock; }
     Prompts &prompts() { return *m_services.prompts; }
     Choosers &choosers() { return *m_services.choosers; }
+    Printing &printing() { return *m_services.printing; }
+    Browser &browser() { return *m_services.browser; }
     const Pictures &pictures() const { return m_services.pictures; }
     const ProgramPaths &paths() const { return file.paths; }
 

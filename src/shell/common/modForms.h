@@ -38,6 +38,8 @@ void CloseAllWindows(Program &program);
 void saveNote(Program &program, clsNoteProps &note);
 /// Takes a note out of the data file.
 void removeNote(Program &program, const clsNoteProps &note);
+/// Something is not on the disk as it is.
+bool hasUnsavedNotes(const Program &program);
 /// Saves every note that has changed, with one write of the file; false when there is none at all.
 bool SaveAllNotes(Program &program);
 /// The same, with a progress window that can stop it.

@@ -56,7 +56,8 @@ public:
     {
         const auto outcome = m_batch.end();
         if (outcome) {
-            m_program.saveFailureTold = false;
+            if (m_program.file.readOnlyReason.isEmpty())
+                m_program.saveFailureTold = false;
             return;
         }
         for (Form *form : m_program.forms.loaded())
@@ -101,6 +102,12 @@ void removeNote(Program &program, const clsNoteProps &note)
     const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, false);
     if (result.kind == WriteResult::Kind::Failed)
         tellFailure(program, result.reason);
+}
+
+bool hasUnsavedNotes(const Program &program)
+{
+    const auto all = program.forms.loaded();
+    return program.file.unsaved || std::any_of(all.begin(), all.end(), [](const Form *form) { return form->hasUnsavedNotes(); });
 }
 
 bool SaveAllNotes(Program &program)
