@@ -3,15 +3,18 @@
 #include "shell/frmMenu.h"
 
 #include "notes/modCreateNote.h"
+#include "platform/TrayIcon.h"
 #include "platform/WindowStacking.h"
 #include "shell/PanelRow.h"
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
+#include "shell/common/modHelp.h"
 #include "shell/modInit.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMenu>
 
 namespace {
 
@@ -19,40 +22,56 @@ constexpr int RowHeight = 30;
 constexpr int RowReach = 10; ///< How far a row begins left of its picture and ends before the panel's edge.
 constexpr int LogoSide = 64;
 constexpr int LogoGap = 10;
+constexpr int GripSide = 16;
+constexpr QSize SmallestPanel(300, 220);
 
 struct RowText
 {
     const char *name;
     const char *caption;
+    int key; ///< Pressed with Alt.
 };
 
+/// In the order of the commands.
 constexpr std::array<RowText, 8> Rows{{
-    {"New", QT_TRANSLATE_NOOP("frmMenu", "New Desktop Quillet")},
-    {"NoteStack", QT_TRANSLATE_NOOP("frmMenu", "View NoteStack")},
-    {"DtoN", QT_TRANSLATE_NOOP("frmMenu", "All to NoteStack")},
-    {"NtoD", QT_TRANSLATE_NOOP("frmMenu", "All to Desktop")},
-    {"Save", QT_TRANSLATE_NOOP("frmMenu", "Save All Quillets")},
-    {"Options", QT_TRANSLATE_NOOP("frmMenu", "Quillets Options")},
-    {"Help", QT_TRANSLATE_NOOP("frmMenu", "Quillets Help")},
-    {"Exit", QT_TRANSLATE_NOOP("frmMenu", "Quillets Exit")},
+    {"New", QT_TRANSLATE_NOOP("frmMenu", "New Desktop Quillet"), Qt::Key_N},
+    {"NoteStack", QT_TRANSLATE_NOOP("frmMenu", "View NoteStack"), Qt::Key_V},
+    {"DtoN", QT_TRANSLATE_NOOP("frmMenu", "All to NoteStack"), Qt::Key_A},
+    {"NtoD", QT_TRANSLATE_NOOP("frmMenu", "All to Desktop"), Qt::Key_D},
+    {"Save", QT_TRANSLATE_NOOP("frmMenu", "Save All Quillets"), Qt::Key_S},
+    {"Options", QT_TRANSLATE_NOOP("frmMenu", "Quillets Options"), Qt::Key_O},
+    {"Help", QT_TRANSLATE_NOOP("frmMenu", "Quillets Help"), Qt::Key_H},
+    {"Exit", QT_TRANSLATE_NOOP("frmMenu", "Quillets Exit"), Qt::Key_X},
 }};
 
 } // namespace
 
-frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toString()), m_program(program)
+frmMenu::frmMenu(Program &program)
+    : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this)
 {
     setObjectName(formName());
     setWindowTitle(tr("Menu - Quillets"));
+    m_drag.setLimits(SmallestPanel, false);
+    setMinimumSize(SmallestPanel);
     makeLogo();
     makeRows();
+    makeGrip();
+    makeTray();
+}
+
+frmMenu::~frmMenu()
+{
+    m_program.forms.changed = nullptr;
 }
 
 void frmMenu::makeLogo()
 {
     m_logo = new QLabel(this);
     m_logo->setObjectName(QStringLiteral("imgQuilletsLogo"));
+    m_logo->setAccessibleName(tr("About Quillets"));
     m_logo->setPixmap(m_program.pictures().programIcon().pixmap(QSize(LogoSide, LogoSide), devicePixelRatioF()));
     m_logo->setAlignment(Qt::AlignCenter);
+    m_logo->installEventFilter(this);
     m_name = new QLabel(QStringLiteral("Quillets"), this);
     m_name->setObjectName(QStringLiteral("lblName"));
     QFont serif(QStringLiteral("Times New Roman"), 17, QFont::Bold);
@@ -70,38 +89,105 @@ void frmMenu::makeLogo()
 
 void frmMenu::makeRows()
 {
-    const std::array<std::function<void()>, Commands> commands{
-        [this] { modCreateNote::createNewNote(m_program, false); },
-        {},
-        {},
-        {},
-        [this] { modForms::SaveAllWithProgress(m_program); },
-        {},
-        {},
-        [this] { modInit::ExitProgram(m_program); },
-    };
     for (size_t i = 0; i < Rows.size(); ++i) {
+        const auto command = static_cast<Command>(i);
         auto *row = new PanelRow(m_program.pictures(), QLatin1String(Rows[i].name), tr(Rows[i].caption), this);
+        row->setShortcut(QKeyCombination(Qt::ALT, static_cast<Qt::Key>(Rows[i].key)));
+        const QString reason = unavailable(command);
+        row->setEnabled(reason.isEmpty());
+        row->setToolTip(reason);
+        connect(row, &PanelRow::commanded, this, [this, command] { run(command); });
         m_rows[i] = row;
-        if (!commands[i]) {
-            row->setEnabled(false);
-            row->setToolTip(tr("Not in this version yet."));
-            continue;
-        }
-        connect(row, &PanelRow::commanded, this, [this, command = commands[i]] { run(command); });
     }
 }
 
-void frmMenu::run(const std::function<void()> &command)
+void frmMenu::makeGrip()
 {
-    if (m_pressGuard)
+    m_grip = new QLabel(this);
+    m_grip->setObjectName(QStringLiteral("imgResize"));
+    m_grip->setCursor(Qt::SizeFDiagCursor);
+    QColor ink = palette().color(QPalette::WindowText);
+    ink.setAlphaF(0.45F);
+    m_grip->setPixmap(m_program.pictures().shape(QStringLiteral("resize.gif"), ink, devicePixelRatioF()));
+    m_grip->installEventFilter(this);
+}
+
+void frmMenu::makeTray()
+{
+    struct Entry
+    {
+        const char *name;
+        const char *caption;
+        Command command;
+    };
+    constexpr std::array<Entry, 11> Entries{{
+        {"mnuAbout", QT_TR_NOOP("About Quillets"), Command::About},
+        {"mnuShow", QT_TR_NOOP("Show Menu"), Command::Show},
+        {"mnuExit", QT_TR_NOOP("Exit Program"), Command::Exit},
+        {"mnuHelp", QT_TR_NOOP("Help"), Command::Help},
+        {"mnuAllNoteStack", QT_TR_NOOP("All to NoteStack"), Command::AllToNoteStack},
+        {"mnuAllDesktop", QT_TR_NOOP("All to Desktop"), Command::AllToDesktop},
+        {"mnuSave", QT_TR_NOOP("Save"), Command::Save},
+        {"mnuOptions", QT_TR_NOOP("View Options"), Command::Options},
+        {"mnuNotestack", QT_TR_NOOP("View Notestack"), Command::NoteStack},
+        {"mnuNew", QT_TR_NOOP("New Quillet"), Command::New},
+        {"mnuCancel", QT_TR_NOOP("Cancel"), Command::None},
+    }};
+    m_popup = new QMenu(this);
+    m_popup->setObjectName(QStringLiteral("mnuPopup"));
+    m_popup->setToolTipsVisible(true);
+    for (const Entry &entry : Entries) {
+        QAction *action = m_popup->addAction(tr(entry.caption));
+        action->setObjectName(QLatin1String(entry.name));
+        action->setEnabled(unavailable(entry.command).isEmpty());
+        action->setToolTip(unavailable(entry.command));
+        connect(action, &QAction::triggered, this, [this, command = entry.command] { run(command); });
+    }
+    m_tray = new TrayIcon(m_program.pictures().programIcon(), m_popup, this);
+    connect(m_tray, &TrayIcon::doubleClicked, this, [this] { run(Command::New); });
+    m_program.forms.changed = [this] { QMetaObject::invokeMethod(this, &frmMenu::showTip, Qt::QueuedConnection); };
+}
+
+QString frmMenu::unavailable(Command command) const
+{
+    switch (command) {
+    case Command::NoteStack:
+    case Command::AllToNoteStack:
+    case Command::AllToDesktop:
+    case Command::Options:
+    case Command::About: return tr("Not in this version yet.");
+    default: return {};
+    }
+}
+
+void frmMenu::run(Command command)
+{
+    if (m_pressGuard || m_program.Exiting || command == Command::None || !unavailable(command).isEmpty())
         return;
     m_pressGuard = true;
-    windowStacking::SetForegroundWindow(*this);
+    if (isVisible())
+        windowStacking::SetForegroundWindow(*this);
     const QPointer<frmMenu> self = this;
-    command();
+    perform(command);
     if (self != nullptr)
         m_pressGuard = false;
+}
+
+void frmMenu::perform(Command command)
+{
+    switch (command) {
+    case Command::New: modCreateNote::createNewNote(m_program, false); break;
+    case Command::Save: modForms::SaveAllWithProgress(m_program); break;
+    case Command::Help: modHelp::ShowHelp(m_program); break;
+    case Command::Exit: modInit::ExitProgram(m_program); break;
+    case Command::Show: showMenu(); break;
+    case Command::NoteStack:
+    case Command::AllToNoteStack:
+    case Command::AllToDesktop:
+    case Command::Options:
+    case Command::About:
+    case Command::None: break;
+    }
 }
 
 /// The column of pictures stands in the middle, the captions to the right of it, the logo to the left.
@@ -116,24 +202,89 @@ void frmMenu::ResizeForm()
         row->layOut(QRect(left, top, width() - left - RowReach, rowHeight), pictureLeft);
         top += rowHeight;
     }
+    layOutLogo(pictureLeft - RowReach);
+    m_grip->setGeometry(width() - GripSide, height() - GripSide, GripSide, GripSide);
+}
+
+void frmMenu::layOutLogo(int width)
+{
     const int nameHeight = m_name->sizeHint().height();
     const int aboutHeight = m_about->sizeHint().height();
-    const int logoWidth = pictureLeft - RowReach;
-    int logoTop = (height() - LogoSide - nameHeight - aboutHeight - LogoGap) / 2;
-    m_logo->setGeometry(0, logoTop, logoWidth, LogoSide);
-    m_name->setGeometry(0, logoTop += LogoSide + LogoGap, logoWidth, nameHeight);
-    m_about->setGeometry(0, logoTop + nameHeight, logoWidth, aboutHeight);
+    int top = (height() - LogoSide - nameHeight - aboutHeight - LogoGap) / 2;
+    m_logo->setGeometry((width - LogoSide) / 2, top, LogoSide, LogoSide);
+    top += LogoSide + LogoGap;
+    m_name->setGeometry(0, top, width, nameHeight);
+    m_about->setGeometry(0, top + nameHeight, width, aboutHeight);
 }
 
 void frmMenu::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    ResizeForm();
+    if (!isMinimized())
+        ResizeForm();
+}
+
+void frmMenu::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    if (isMinimized())
+        // The window system is told of the hiding after it has finished minimising.
+        QMetaObject::invokeMethod(this, &frmMenu::minimised, Qt::QueuedConnection);
+    else if (isVisible())
+        m_tray->setVisible(false);
+}
+
+/// Without a tray the panel stays minimised in the task bar; the icon comes when a tray does.
+void frmMenu::minimised()
+{
+    if (!isMinimized() || m_program.Exiting)
+        return;
+    showTip();
+    m_tray->setVisible(true);
+    if (TrayIcon::isThere())
+        hide();
+}
+
+void frmMenu::showMenu()
+{
+    m_tray->setVisible(false);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    windowStacking::SetForegroundWindow(*this);
+}
+
+void frmMenu::showTip()
+{
+    const Form *stack = m_program.forms.find(formNames::NoteStack);
+    const auto count = static_cast<int>(m_program.forms.notes().size()) + (stack != nullptr ? stack->noteCount() : 0);
+    m_tray->setTip(count == 1 ? tr("Quillets\n1 note") : tr("Quillets\n%1 notes").arg(count));
+}
+
+bool frmMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *mouse = dynamic_cast<QMouseEvent *>(event);
+    if (mouse == nullptr)
+        return false;
+    if (watched == m_logo) {
+        if (event->type() == QEvent::MouseButtonRelease && mouse->button() == Qt::LeftButton)
+            run(Command::About);
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton)
+        m_drag.press(WindowDrag::HitTest::BottomRight, mouse->globalPosition().toPoint());
+    else if (event->type() == QEvent::MouseMove)
+        m_drag.move(mouse->globalPosition().toPoint());
+    else if (event->type() == QEvent::MouseButtonRelease)
+        m_drag.release();
+    return true;
 }
 
 void frmMenu::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    m_tray->setVisible(false);
     if (m_program.Exiting)
         return;
     m_program.Exiting = true;

@@ -2,24 +2,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/WindowDrag.h"
 #include "shell/common/Form.h"
 
 #include <QWidget>
 
 #include <array>
-#include <functional>
 
 class PanelRow;
 class Program;
 class QLabel;
+class QMenu;
+class TrayIcon;
 
-/// The main panel: the program's logo and its eight commands. Closing it ends the program.
+/// The main panel: the program's logo and its eight commands, and the same commands in the menu of the tray icon that
+/// takes the panel's place while it is minimised. Closing the panel ends the program.
 class frmMenu final : public QWidget, public Form
 {
     Q_OBJECT
 
 public:
     explicit frmMenu(Program &program);
+    ~frmMenu() override;
 
     /// Lays the panel out for its size.
     void ResizeForm();
@@ -27,19 +31,36 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     static constexpr size_t Commands = 8;
 
+    enum class Command { New, NoteStack, AllToNoteStack, AllToDesktop, Save, Options, Help, Exit, About, Show, None };
+
     void makeRows();
     void makeLogo();
-    void run(const std::function<void()> &command);
+    void makeTray();
+    void makeGrip();
+    void layOutLogo(int width);
+    void run(Command command);
+    void perform(Command command);
+    /// Why a command cannot be given now; empty when it can.
+    QString unavailable(Command command) const;
+    void minimised();
+    void showMenu();
+    void showTip();
 
     Program &m_program;
+    WindowDrag m_drag;
     std::array<PanelRow *, Commands> m_rows{};
     QLabel *m_logo = nullptr;
     QLabel *m_name = nullptr;
     QLabel *m_about = nullptr;
-    bool m_pressGuard = false; ///< A button's command is under way.
+    QLabel *m_grip = nullptr; // imgResize
+    QMenu *m_popup = nullptr; // mnuPopup
+    TrayIcon *m_tray = nullptr;
+    bool m_pressGuard = false; ///< A command is under way.
 };

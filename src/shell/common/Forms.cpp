@@ -65,7 +65,16 @@ Form *Forms::holderOf(qint32 tag) const
     return found == m_loaded.end() ? nullptr : *found;
 }
 
+void Forms::add(Form *form)
+{
+    m_loaded.push_back(form);
+    if (changed)
+        changed();
+}
+
 void Forms::remove(Form *form)
 {
     std::erase(m_loaded, form);
+    if (changed)
+        changed();
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <functional>
 #include <vector>
 
 class Form;
@@ -30,13 +31,15 @@ public:
     std::vector<Form *> notes() const;
     /// The window of the note with this tag, or null.
     Form *note(qint32 tag) const;
+    /// Said after the list has changed; for whoever shows how many notes there are.
+    std::function<void()> changed;
     /// The form that the note with this tag lives in, or null.
     Form *holderOf(qint32 tag) const;
 
 private:
     friend class Form;
 
-    void add(Form *form) { m_loaded.push_back(form); }
+    void add(Form *form);
     void remove(Form *form);
 
     std::vector<Form *> m_loaded;
