@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "notes/frmNote.h"
 
-#include "notes/LockOverlay.h"
-#include "notes/NoteBody.h"
+#include "notes/commands/noteTitles.h"
 #include "notes/ResizeHandles.h"
+#include "notes/parts/LockOverlay.h"
+#include "notes/parts/NoteBody.h"
 #include "notes/parts/NoteTitle.h"
 #include "notes/parts/TextShortening.h"
 #include "platform/WindowStacking.h"
@@ -102,7 +103,7 @@ void frmNote::InitiateNote(clsNoteProps record)
 
 QString frmNote::title() const
 {
-    return m_record.TitleBarTitle.isEmpty() ? m_record.TempTitle : m_record.TitleBarTitle;
+    return noteTitles::title(m_record);
 }
 
 QString frmNote::ShortenString(const QString &text, int maxWidth, const QString &fontName, qreal fontSize) const
@@ -118,6 +119,11 @@ void frmNote::SaveThisNote()
     if (m_placeTimer.isActive())
         storePlace();
     modForms::saveNote(m_program, m_record);
+}
+
+std::vector<qint32> frmNote::changedTags() const
+{
+    return m_record.SaveTag == 1 ? std::vector{m_record.Tag} : std::vector<qint32>();
 }
 
 void frmNote::markUnsaved(qint32 tag)
@@ -158,9 +164,7 @@ void frmNote::beginTextEditing()
     const QPointer<frmNote> self = this;
     if (m_locked || m_body->isEditing())
         return;
-    const noteLocks::Refusal refusal{tr("Editing failed."), tr("Editing failed")};
-    if (!noteLocks::checkReadOnly(m_program, m_record, noteLocks::readOnlyDescription(), refusal, this) ||
-        self == nullptr || m_locked || isUnloaded())
+    if (!noteLocks::checkEditing(m_program, m_record, this) || self == nullptr || m_locked || isUnloaded())
         return;
     activateWindow();
     m_body->BeginTextEditing(m_record.Data);

@@ -62,7 +62,7 @@ public:
     void ThisFormLostFocus() override;
     void Destroy() override;
     void commitEditing() override;
-    bool hasUnsavedNotes() const override { return m_record.SaveTag == 1; }
+    std::vector<qint32> changedTags() const override;
     void markUnsaved(qint32 tag) override;
     clsNoteProps *recordOf(qint32 tag) override { return tag == m_record.Tag ? &m_record : nullptr; }
 

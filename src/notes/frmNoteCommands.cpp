@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/NoteBody.h"
+#include "notes/parts/NoteBody.h"
 #include "notes/commands/NoteMenu.h"
 #include "notes/commands/noteClipboard.h"
 #include "notes/commands/notePrinting.h"
+#include "notes/commands/noteTitles.h"
 #include "notes/frmNote.h"
 #include "notes/modCreateNote.h"
 #include "notes/parts/NoteTitle.h"
@@ -19,8 +20,6 @@
 #include <QKeyEvent>
 
 namespace {
-
-constexpr int ShortTitleWidth = 2000; // design twips
 
 using Kind = MenuEntry::Kind;
 using enum NoteCommand;
@@ -201,21 +200,22 @@ void frmNote::exitCommanded()
 
 void frmNote::ToTheNoteStack()
 {
-    RemoveFromDesktop();
-    modCreateNote::CreateNote(m_program, m_record, true, NoteCreateMode::Move);
+    commitEditing();
+    Destroy();
+    const clsNoteProps record = m_record;
+    unload();
+    modCreateNote::CreateNote(m_program, record, true, NoteCreateMode::Move);
 }
 
 QString frmNote::shortTitle() const
 {
-    return ShortenString(title(), Twips::design(ShortTitleWidth), font().family(), font().pointSizeF());
+    return noteTitles::shortTitle(m_record, font());
 }
 
 void frmNote::deleteNote()
 {
     const QPointer<frmNote> self = this;
-    const Message question{tr("Delete note '") + shortTitle() + tr("' ?"), tr("Note Deletion"), Message::Icon::None,
-                           Message::Buttons::OkCancel};
-    if (m_program.prompts().ask(question, this) != Prompts::Answer::Ok || self == nullptr || isUnloaded())
+    if (!noteTitles::confirmDeletion(m_program, m_record, this) || self == nullptr || isUnloaded())
         return;
     if (m_locked) {
         m_program.prompts().tell({tr("You cannot delete a Quillet that is locked."), tr("Deletion Error"), Message::Icon::Critical},
@@ -231,11 +231,6 @@ void frmNote::deleteNote()
 void frmNote::unlock()
 {
     const QPointer<frmNote> self = this;
-    const bool accepted = noteLocks::AuthenticateNote(m_program, u'\'' + shortTitle() + u'\'', m_record.Pwd, this);
-    if (self == nullptr || isUnloaded())
-        return;
-    if (accepted)
+    if (noteLocks::checkUnlocking(m_program, m_record, shortTitle(), this) && self != nullptr && !isUnloaded())
         ShowLockLayer(false);
-    else
-        m_program.prompts().tell({tr("Invalid password.  Access to note failed."), tr("Access failed")}, this);
 }

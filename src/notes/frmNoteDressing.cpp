@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/LockOverlay.h"
-#include "notes/NoteBody.h"
+#include "notes/parts/LockOverlay.h"
+#include "notes/parts/NoteBody.h"
 #include "notes/ResizeHandles.h"
+#include "notes/commands/noteTitles.h"
 #include "notes/frmNote.h"
 #include "notes/parts/NoteTitle.h"
 #include "platform/Prompts.h"
@@ -116,9 +117,8 @@ void frmNote::UpdateToolbarIcons()
 void frmNote::SetFocusToTitleBar()
 {
     const QPointer<frmNote> self = this;
-    const noteLocks::Refusal refusal{tr("Invalid password.  Access to note failed."), tr("Access failed")};
-    if (m_locked || !noteLocks::checkReadOnly(m_program, m_record, u'\'' + title() + u'\'', refusal, this) ||
-        self == nullptr || m_locked || isUnloaded())
+    if (m_locked || !noteLocks::checkTitleEditing(m_program, m_record, shortTitle(), this) || self == nullptr || m_locked ||
+        isUnloaded())
         return;
     beginTitleEditing();
 }
@@ -132,18 +132,12 @@ void frmNote::beginTitleEditing()
 
 void frmNote::titleEdited(const QString &text)
 {
-    if (!text.trimmed().isEmpty()) {
-        m_record.TitleBarTitle = text;
-        showTitle();
-        markChanged();
-        return;
-    }
-    showTitle();
-    if (!isReady())
-        return;
     const QPointer<frmNote> self = this;
-    m_program.prompts().tell({tr("You cannot have a zero-length title."), tr("Error"), Message::Icon::Critical}, this);
-    if (self != nullptr && isReady() && !m_locked)
+    const bool taken = noteTitles::take(m_program, m_record, text, isReady(), this);
+    if (self == nullptr || isUnloaded())
+        return;
+    showTitle();
+    if (!taken && isReady() && !m_locked)
         beginTitleEditing();
 }
 

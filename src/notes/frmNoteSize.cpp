@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/LockOverlay.h"
-#include "notes/NoteBody.h"
+#include "notes/parts/LockOverlay.h"
+#include "notes/parts/NoteBody.h"
 #include "notes/ResizeHandles.h"
 #include "notes/frmNote.h"
 #include "notes/parts/NoteTitle.h"

@@ -94,6 +94,14 @@ qint32 createOnDesktop(Program &program, clsNoteProps record, NoteCreateMode mod
     return tag;
 }
 
+/// A moved note changes its place in the data file at once and is never absent from it.
+void writeMoved(Program &program, qint32 tag)
+{
+    Form *holder = program.forms.holderOf(tag);
+    if (clsNoteProps *record = holder != nullptr ? holder->recordOf(tag) : nullptr)
+        modForms::saveNote(program, *record);
+}
+
 } // namespace
 
 void tellLimit(Program &program)
@@ -109,7 +117,11 @@ qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteC
         tellLimit(program);
         return 0;
     }
-    return toNoteStack ? createInStack(program, std::move(record), mode) : createOnDesktop(program, std::move(record), mode);
+    const qint32 tag =
+        toNoteStack ? createInStack(program, std::move(record), mode) : createOnDesktop(program, std::move(record), mode);
+    if (mode == NoteCreateMode::Move)
+        writeMoved(program, tag);
+    return tag;
 }
 
 void createNewNote(Program &program, bool toNoteStack)

@@ -29,9 +29,13 @@ void StackShelf::SaveThisStackSys()
         modForms::saveNote(m_program, note);
 }
 
-bool StackShelf::hasUnsavedNotes() const
+std::vector<qint32> StackShelf::changedTags() const
 {
-    return std::any_of(m_notes.begin(), m_notes.end(), [](const clsNoteProps &note) { return note.SaveTag == 1; });
+    std::vector<qint32> tags;
+    for (const clsNoteProps &note : m_notes)
+        if (note.SaveTag == 1)
+            tags.push_back(note.Tag);
+    return tags;
 }
 
 void StackShelf::markUnsaved(qint32 tag)

@@ -19,7 +19,7 @@ public:
     int NumOfQuillets() const override;
     int noteCount() const override;
     void SaveThisStackSys() override;
-    bool hasUnsavedNotes() const override;
+    std::vector<qint32> changedTags() const override;
     void markUnsaved(qint32 tag) override;
 
 private:

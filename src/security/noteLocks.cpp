@@ -53,4 +53,46 @@ bool checkReadOnly(Program &program, const clsNoteProps &note, const QString &de
     return false;
 }
 
+bool checkEditing(Program &program, const clsNoteProps &note, QWidget *owner)
+{
+    const QString failed = QCoreApplication::translate("noteLocks", "Editing failed.");
+    return checkReadOnly(program, note, readOnlyDescription(),
+                         {failed, QCoreApplication::translate("noteLocks", "Editing failed")}, owner);
+}
+
+namespace {
+
+QString quoted(const QString &title)
+{
+    return u'\'' + title + u'\'';
+}
+
+Refusal noAccess()
+{
+    return {QCoreApplication::translate("noteLocks", "Invalid password.  Access to note failed."),
+            QCoreApplication::translate("noteLocks", "Access failed")};
+}
+
+} // namespace
+
+bool checkTitleEditing(Program &program, const clsNoteProps &note, const QString &title, QWidget *owner)
+{
+    return checkReadOnly(program, note, quoted(title), noAccess(), owner);
+}
+
+bool checkUnlocking(Program &program, const clsNoteProps &note, const QString &title, QWidget *owner)
+{
+    const QPointer<QWidget> window = owner;
+    if (AuthenticateNote(program, quoted(title), note.Pwd, owner))
+        return true;
+    if (window != nullptr)
+        program.prompts().tell({noAccess().text, noAccess().caption}, owner);
+    return false;
+}
+
+bool checkAccess(Program &program, const clsNoteProps &note, const QString &failure, QWidget *owner)
+{
+    return checkReadOnly(program, note, readOnlyDescription(), {failure, noAccess().caption}, owner);
+}
+
 } // namespace noteLocks

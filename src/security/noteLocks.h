@@ -33,6 +33,16 @@ struct Refusal
 bool checkReadOnly(Program &program, const clsNoteProps &note, const QString &description, const Refusal &refusal,
                    QWidget *owner);
 
+// The checks of single actions that both kinds of notes have.
+
+bool checkEditing(Program &program, const clsNoteProps &note, QWidget *owner);
+/// `title` is the note's, shortened for the prompt.
+bool checkTitleEditing(Program &program, const clsNoteProps &note, const QString &title, QWidget *owner);
+/// Asks for the password of a locked note; a wrong one is told. A note without a password takes an empty entry.
+bool checkUnlocking(Program &program, const clsNoteProps &note, const QString &title, QWidget *owner);
+/// `failure` as in "Access to Alarm functions failed.".
+bool checkAccess(Program &program, const clsNoteProps &note, const QString &failure, QWidget *owner);
+
 /// The prompt's description of most actions.
 QString readOnlyDescription();
 

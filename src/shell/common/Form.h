@@ -6,6 +6,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <vector>
+
 class Forms;
 class QWidget;
 
@@ -40,6 +43,11 @@ public:
     /// Notes, where an empty NoteStack has a tab but no note.
     virtual int noteCount() const { return 0; }
     virtual void SaveThisStackSys() {}
+    /// The same, asking before each note whether to go on; it gets the note's position, counted from 0.
+    virtual void SaveThisStack(const std::function<bool(int)> &) {}
+    virtual void TransferAllToDesktop() {}
+    /// Shows the window and brings it to the front.
+    virtual void showStack() {}
     virtual void TextLostFocus() {}
 
     // Hooks of both.
@@ -51,8 +59,8 @@ public:
     virtual void ResetAlarms() {}
     /// Puts what is being typed into the record.
     virtual void commitEditing() {}
-    /// Some note of this form is not on the disk as it is.
-    virtual bool hasUnsavedNotes() const { return false; }
+    /// The notes of this form that are not on the disk as they are.
+    virtual std::vector<qint32> changedTags() const { return {}; }
     /// A write failed: the note with this tag, if it is this form's, counts as changed again.
     virtual void markUnsaved(qint32) {}
 

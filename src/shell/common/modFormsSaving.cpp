@@ -38,18 +38,27 @@ class SaveRun
 public:
     explicit SaveRun(Program &program) : m_program(program), m_batch(program.file) {}
 
-    /// Saves one form and remembers its note.
+    /// Saves one note window.
     void save(Form *form)
     {
-        if (const clsNoteProps *note = form->GetThisNoteProps(); note != nullptr && note->SaveTag == 1)
-            m_tags.push_back(note->Tag);
+        remember(*form);
         form->SaveThisNote();
     }
 
     void saveStack()
     {
-        if (Form *stack = m_program.forms.find(formNames::NoteStack))
+        if (Form *stack = m_program.forms.find(formNames::NoteStack)) {
+            remember(*stack);
             stack->SaveThisStackSys();
+        }
+    }
+
+    void saveStack(const std::function<bool(int)> &goOn)
+    {
+        if (Form *stack = m_program.forms.find(formNames::NoteStack)) {
+            remember(*stack);
+            stack->SaveThisStack(goOn);
+        }
     }
 
     void finish()
@@ -67,6 +76,12 @@ public:
     }
 
 private:
+    void remember(const Form &form)
+    {
+        const auto changed = form.changedTags();
+        m_tags.insert(m_tags.end(), changed.begin(), changed.end());
+    }
+
     Program &m_program;
     SaveBatch m_batch;
     std::vector<qint32> m_tags;
@@ -107,7 +122,7 @@ void removeNote(Program &program, const clsNoteProps &note)
 bool hasUnsavedNotes(const Program &program)
 {
     const auto all = program.forms.loaded();
-    return program.file.unsaved || std::any_of(all.begin(), all.end(), [](const Form *form) { return form->hasUnsavedNotes(); });
+    return program.file.unsaved || std::any_of(all.begin(), all.end(), [](const Form *form) { return !form->changedTags().empty(); });
 }
 
 bool SaveAllNotes(Program &program)
@@ -149,8 +164,12 @@ bool SaveAllWithProgress(Program &program)
         run.save(note);
         status->setValue(++program.SaveProgress);
     }
-    if (!status->Cancelled)
-        run.saveStack();
+    const int before = program.SaveProgress;
+    run.saveStack([&status, before](int position) {
+        QCoreApplication::processEvents();
+        status->setValue(before + position);
+        return !status->Cancelled;
+    });
     status->hide();
     run.finish();
     return true;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/LockOverlay.h"
+#include "notes/parts/LockOverlay.h"
 
 #include <QEvent>
 #include <QKeyEvent>

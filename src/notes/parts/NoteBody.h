@@ -17,6 +17,10 @@ class NoteBody final : public QObject
 
 public:
     explicit NoteBody(QWidget *note);
+    ~NoteBody() override;
+
+    /// Where one window has several bodies: the names of the controls get "(index)" behind them.
+    void setIndex(int index);
 
     void setGeometry(const QRect &rect);
     /// False hides both layers.
@@ -41,12 +45,14 @@ signals:
     void committed(const QString &text);
 
 private:
+    void nameControls();
     void makeTextBox();
     void showLayers();
     void dressTextBox();
 
     QWidget *m_note;
-    QWidget *m_display; // fraDisplay
+    QString m_suffix;
+    QPointer<QWidget> m_display; // fraDisplay
     NoteText *m_text;   // lblDisplay
     QPointer<BackgroundPicture> m_picture;
     QPointer<QWidget> m_editLayer; // fraText

@@ -1,14 +1,37 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/NoteBody.h"
+#include "notes/parts/NoteBody.h"
 
 #include "shell/common/modForms.h"
 
 NoteBody::NoteBody(QWidget *note) : QObject(note), m_note(note), m_display(new QWidget(note)), m_text(new NoteText(m_display))
 {
-    m_display->setObjectName(QStringLiteral("fraDisplay"));
-    m_text->setObjectName(QStringLiteral("lblDisplay"));
+    nameControls();
     connect(m_text, &NoteText::pressed, this, &NoteBody::textPressed);
+}
+
+NoteBody::~NoteBody()
+{
+    delete m_display;
+    delete m_editLayer;
+}
+
+void NoteBody::setIndex(int index)
+{
+    m_suffix = QStringLiteral("(%1)").arg(index);
+    nameControls();
+}
+
+void NoteBody::nameControls()
+{
+    m_display->setObjectName(QStringLiteral("fraDisplay") + m_suffix);
+    m_text->setObjectName(QStringLiteral("lblDisplay") + m_suffix);
+    if (m_picture != nullptr)
+        m_picture->setObjectName(QStringLiteral("imgDisplay") + m_suffix);
+    if (m_editLayer == nullptr)
+        return;
+    m_editLayer->setObjectName(QStringLiteral("fraText") + m_suffix);
+    m_textBox->setObjectName(QStringLiteral("txtText") + m_suffix);
 }
 
 void NoteBody::setGeometry(const QRect &rect)
@@ -63,6 +86,7 @@ bool NoteBody::setPicture(const QString &path)
         m_picture->lower();
         m_picture->setGeometry(QRect(QPoint(0, 0), m_rect.size()));
         m_picture->show();
+        nameControls();
     }
     if (m_picture->load(path))
         return true;
@@ -73,10 +97,9 @@ bool NoteBody::setPicture(const QString &path)
 void NoteBody::makeTextBox()
 {
     m_editLayer = new QWidget(m_note);
-    m_editLayer->setObjectName(QStringLiteral("fraText"));
     m_editLayer->stackUnder(m_display);
     m_textBox = new NoteTextBox(m_editLayer);
-    m_textBox->setObjectName(QStringLiteral("txtText"));
+    nameControls();
     connect(m_textBox, &NoteTextBox::left, this, &NoteBody::commit);
     dressTextBox();
     setGeometry(m_rect);
