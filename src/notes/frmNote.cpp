@@ -8,6 +8,8 @@
 #include "notes/parts/NoteBody.h"
 #include "notes/parts/NoteTitle.h"
 #include "notes/parts/TextShortening.h"
+#include "platform/Colours.h"
+#include "platform/SoundPlayer.h"
 #include "platform/WindowStacking.h"
 #include "security/noteLocks.h"
 #include "shell/common/Program.h"
@@ -24,7 +26,7 @@ constexpr auto PlaceSettles = 300ms;
 
 frmNote::frmNote(Program &program)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), Form(program.forms, formNames::Note.toString()),
-      m_program(program), m_drag(*this), m_toolbar(new NoteToolbar(program.pictures(), this)), m_body(new NoteBody(this)),
+      m_program(program), m_alarm(program, [this] { return isUnloaded() ? nullptr : &m_record; }), m_drag(*this), m_toolbar(new NoteToolbar(program.pictures(), this)), m_body(new NoteBody(this)),
       m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_drag))
 {
     setObjectName(formName());
@@ -89,6 +91,13 @@ void frmNote::connectParts()
         storeSize();
         storePlace();
     });
+    connect(&m_alarm, &NoteAlarm::armedChanged, this, &frmNote::UpdateToolbarIcons);
+    connect(&m_alarm, &NoteAlarm::fired, this, &frmNote::signalAlarm);
+    connect(&m_flash, &NoteFlash::colourChanged, this, &frmNote::showFlash);
+    connect(&m_flash, &NoteFlash::raiseWanted, this, [this] {
+        if (!m_record.OnTopOn)
+            windowStacking::bringForward(*this);
+    });
     connect(&m_placeTimer, &QTimer::timeout, this, &frmNote::storePlace);
 }
 
@@ -147,6 +156,8 @@ void frmNote::Destroy()
 {
     m_closing = true;
     m_placeTimer.stop();
+    m_flash.StopFlashing();
+    m_alarm.Destroy();
     m_title->giveUp();
     modForms::UnhookWindow(*this);
 }
@@ -173,6 +184,38 @@ void frmNote::beginTextEditing()
 void frmNote::EndTextEditing()
 {
     m_body->commit();
+    m_flash.StopFlashing();
+}
+
+void frmNote::ResetAlarms()
+{
+    m_alarm.ArmNoteAlarm();
+}
+
+void frmNote::signalAlarm()
+{
+    if (m_record.FlashOn)
+        m_flash.StartFlashing(m_ink.paper);
+    if (m_record.SoundFileOn)
+        m_program.sound().play(m_record.SoundFile);
+}
+
+/// The colours of the record stay as they are; only what is seen alternates.
+void frmNote::showFlash(const QColor &paper)
+{
+    m_ink = NoteInk::from(colours::toLong(paper), m_record.ForeColor);
+    dressInk();
+}
+
+void frmNote::recordChanged(qint32)
+{
+    m_flash.StopFlashing();
+    const QPointer<frmNote> self = this;
+    ApplyNoteAppearance();
+    if (self == nullptr || isUnloaded())
+        return;
+    UpdateToolbarIcons();
+    m_alarm.ArmNoteAlarm();
 }
 
 void frmNote::mousePressEvent(QMouseEvent *event)

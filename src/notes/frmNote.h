@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "alarms/NoteAlarm.h"
+#include "alarms/NoteFlash.h"
 #include "model/clsNoteProps.h"
 #include "notes/NoteLayout.h"
 #include "notes/NoteToolbar.h"
@@ -61,7 +63,9 @@ public:
     void ToTheNoteStack() override;
     void ThisFormLostFocus() override;
     void Destroy() override;
+    void ResetAlarms() override;
     void commitEditing() override;
+    void recordChanged(qint32 tag) override;
     std::vector<qint32> changedTags() const override;
     void markUnsaved(qint32 tag) override;
     clsNoteProps *recordOf(qint32 tag) override { return tag == m_record.Tag ? &m_record : nullptr; }
@@ -84,6 +88,8 @@ private:
     void RemoveFromDesktop();
     void beginTextEditing();
     void EndTextEditing();
+    void signalAlarm();
+    void showFlash(const QColor &paper);
 
     // frmNoteCommands.cpp
     NoteMenu *makeMenu(const QString &name, std::span<const MenuEntry> entries);
@@ -92,6 +98,7 @@ private:
     void openShortMenu(QPoint globalPosition);
     void commanded(NoteToolbar::Command command);
     void run(NoteCommand command);
+    void openDialog(NoteCommand command);
     void toggleOnTop();
     void paste();
     void print();
@@ -103,14 +110,12 @@ private:
 
     // frmNoteDressing.cpp
     void dressColours();
-    void dressPicture();
-    void checkSound();
+    void dressInk();
     void showTitle();
     void beginTitleEditing();
     void titleEdited(const QString &text);
     void ShowLockLayer(bool locked);
     void UpdateToolbarIcons();
-    QFont textFont() const;
 
     // frmNoteSize.cpp
     void ScaleNoteControls();
@@ -126,6 +131,8 @@ private:
 
     Program &m_program;
     clsNoteProps m_record;
+    NoteAlarm m_alarm;
+    NoteFlash m_flash;
     NoteInk m_ink;
     WindowDrag m_drag;
     QWidget *m_titleBar = nullptr; // fraTitleBar

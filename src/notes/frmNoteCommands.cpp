@@ -3,6 +3,8 @@
 #include "notes/parts/NoteBody.h"
 #include "notes/commands/NoteMenu.h"
 #include "notes/commands/noteClipboard.h"
+#include "notes/commands/noteDialogs.h"
+#include "notes/commands/noteDressing.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/frmNote.h"
@@ -150,11 +152,28 @@ void frmNote::run(NoteCommand command)
     case Help: modHelp::ShowHelp(m_program); break;
     case Password:
     case Alarm:
-    case Settings:
+    case Settings: openDialog(command); break;
     case Send:
     case Email:
     case None: break;
     }
+}
+
+void frmNote::openDialog(NoteCommand command)
+{
+    const QPointer<frmNote> self = this;
+    const QString failure = command == Settings ? tr("Access to Settings failed.")
+                            : command == Alarm  ? tr("Access to Alarm functions failed.")
+                                                : tr("Access to Password functions failed.");
+    commitEditing();
+    if (m_locked || !noteLocks::checkAccess(m_program, m_record, failure, this) || self == nullptr || isUnloaded())
+        return;
+    if (command == Settings)
+        noteDialogs::openSettings(m_program, m_record.Tag, this);
+    else if (command == Alarm)
+        noteDialogs::openAlarm(m_program, m_record.Tag, this);
+    else
+        noteDialogs::openPassword(m_program, m_record.Tag, this);
 }
 
 void frmNote::toggleOnTop()
@@ -180,7 +199,7 @@ void frmNote::print()
     if (m_locked)
         return;
     m_body->commit();
-    const QFont font = textFont();
+    const QFont font = noteDressing::textFont(m_record, this->font());
     notePrinting::printSheet(m_program,
                              {m_title->shownTitle(), m_title->label().font().family(),
                               notePrinting::SpliceStringToPrint(m_record.Data, font, m_program.twips.perPixel()),

@@ -10,6 +10,8 @@
 #include <QThread>
 
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
 
 using namespace std::chrono_literals;
 
@@ -18,6 +20,33 @@ namespace {
 constexpr auto EndOfThread = 100ms;
 constexpr auto LibraryName = "quillets_sound";
 constexpr auto FunctionName = "quilletsPlayWave";
+
+#ifdef __GLIBC__
+void endProcess(int status, void *)
+{
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+#else
+void endProcess()
+{
+    std::fflush(nullptr);
+    std::_Exit(EXIT_SUCCESS);
+}
+#endif
+
+/// Exit handlers run in the reverse order of their registration: those of the multimedia libraries, which were loaded
+/// before, would wait for a lock that a stuck thread holds, and are not reached.
+void skipEarlierExitHandlers()
+{
+#ifdef __GLIBC__
+    const bool registered = ::on_exit(endProcess, nullptr) == 0;
+#else
+    const bool registered = std::atexit(endProcess) == 0;
+#endif
+    if (!registered)
+        qWarning("The end of the program may wait for the sound server");
+}
 } // namespace
 
 /// Lives in the thread of the sounds; disks and sound servers that do not answer stop only that.
@@ -52,9 +81,10 @@ WaveSound::~WaveSound()
     m_thread->quit();
     // A sound server that accepts and never answers holds the thread for ever, and nothing can free it. The program
     // must end all the same: then thread and worker are left to the end of the process.
-    if (!m_thread->wait(EndOfThread))
-        return;
-    delete m_thread;
+    if (m_thread->wait(EndOfThread))
+        delete m_thread;
+    else
+        skipEarlierExitHandlers();
 }
 
 void WaveSound::play(const QString &wavPath)

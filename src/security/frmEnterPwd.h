@@ -2,16 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/common/Form.h"
-
-#include <QDialog>
-
-class Program;
-class QLabel;
-class QLineEdit;
+#include "security/PasswordDialog.h"
 
 /// Asks for a note's password. It compares only when its caller asks, and forgets what was typed when it goes.
-class frmEnterPwd final : public QDialog, public Form
+class frmEnterPwd final : public PasswordDialog
 {
     Q_OBJECT
 
@@ -28,14 +22,11 @@ public:
     int descriptionWidth() const;
     QFont descriptionFont() const;
 
-    QWidget *window() override { return this; }
-
 protected:
     void accept() override;
     void reject() override;
 
 private:
-    Program &m_program;
     QLabel *m_desc;
     QLineEdit *m_entry;
     QString m_typed;

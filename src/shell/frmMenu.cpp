@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/frmMenu.h"
 
+#include "dialogs/controls/showModally.h"
+#include "dialogs/frmOptions.h"
 #include "notes/modCreateNote.h"
 #include "platform/TrayIcon.h"
 #include "platform/WindowStacking.h"
@@ -150,14 +152,7 @@ void frmMenu::makeTray()
 
 QString frmMenu::unavailable(Command command) const
 {
-    switch (command) {
-    case Command::NoteStack:
-    case Command::AllToNoteStack:
-    case Command::AllToDesktop:
-    case Command::Options:
-    case Command::About: return tr("Not in this version yet.");
-    default: return {};
-    }
+    return command == Command::About ? tr("Not in this version yet.") : QString();
 }
 
 void frmMenu::run(Command command)
@@ -181,13 +176,28 @@ void frmMenu::perform(Command command)
     case Command::Help: modHelp::ShowHelp(m_program); break;
     case Command::Exit: modInit::ExitProgram(m_program); break;
     case Command::Show: showMenu(); break;
+    case Command::AllToNoteStack: modForms::TransferAllToNoteStack(m_program); break;
+    case Command::Options: openOptions(); break;
     case Command::NoteStack:
-    case Command::AllToNoteStack:
     case Command::AllToDesktop:
-    case Command::Options:
+        if (Form *stack = m_program.forms.find(formNames::NoteStack))
+            command == Command::NoteStack ? stack->showStack() : stack->TransferAllToDesktop();
+        break;
     case Command::About:
     case Command::None: break;
     }
+}
+
+void frmMenu::openOptions()
+{
+    const QPointer<frmOptions> dialog = new frmOptions(m_program, isVisible() ? this : nullptr);
+    dialog->Initialize(m_program.ProgramOptions);
+    if (!showModally(dialog))
+        return;
+    dialog->OptionsResult(m_program.ProgramOptions);
+    dialog->unload();
+    if (isVisible())
+        windowStacking::SetForegroundWindow(*this);
 }
 
 /// The column of pictures stands in the middle, the captions to the right of it, the logo to the left.

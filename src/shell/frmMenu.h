@@ -49,6 +49,7 @@ private:
     void perform(Command command);
     /// Why a command cannot be given now; empty when it can.
     QString unavailable(Command command) const;
+    void openOptions();
     void minimised();
     void showMenu();
     void showTip();

@@ -3,7 +3,7 @@
 #include "shell/modInit.h"
 
 #include "notes/modCreateNote.h"
-#include "notestack/StackShelf.h"
+#include "notestack/frmNoteStack.h"
 #include "platform/Browser.h"
 #include "platform/Choosers.h"
 #include "platform/Clock.h"
@@ -12,6 +12,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Printing.h"
 #include "platform/SingleInstance.h"
+#include "platform/SoundPlayer.h"
 #include "platform/WindowStacking.h"
 #include "shell/common/modForms.h"
 #include "shell/common/modTimers.h"
@@ -97,13 +98,16 @@ int run(Program &program)
     const QPointer<frmMenu> panel = new frmMenu(program);
     modForms::ScaleForm(*panel, PanelDesignSize);
     splash->setStatus(QStringLiteral("Loading program components... "));
-    StackShelf shelf(program);
+    auto *stack = new frmNoteStack(program);
+    stack->Initialize();
     EndSignals endSignals;
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));
     restoreNotes(program, splash);
     modTimers::SetAutoSave(program, true);
     showPanel(program, *splash, *panel);
+    if (frmNoteStack::wasShown(program))
+        stack->show();
     const int result = program.Exiting ? 0 : QApplication::exec();
     delete panel;
     return result;
@@ -159,6 +163,9 @@ void restoreNotes(Program &program, frmSplash *splash)
     const LoadReport report =
         modFileIO::LoadDataFile(program.file, program.NoteTemplate, modCreateNote::MostNotes - program.NoteCounter, create,
                                 tell, [] { modTimers::Wait(BeforeRestore); }, program.clock().now());
+    // Alarms that came due meanwhile have waited for the end of the load.
+    for (Form *form : program.forms.loaded())
+        form->ResetAlarms();
     if (report.overLimit > 0)
         modCreateNote::tellLimit(program);
     if (!report.problem.isEmpty())
@@ -201,7 +208,7 @@ int Main(int argc, char *argv[])
     }
     const ProgramPaths paths = ProgramPaths::under(QCoreApplication::applicationDirPath(), QDir::currentPath());
     Services services{std::make_unique<SystemClock>(), std::make_unique<MessageBoxes>(), std::make_unique<DesktopChoosers>(),
-                      std::make_unique<SystemPrinting>(), std::make_unique<DesktopBrowser>(),                       Pictures(paths.ImagesFolder)};
+                      std::make_unique<SystemPrinting>(), std::make_unique<DesktopBrowser>(), std::make_unique<WaveSound>(),                       Pictures(paths.ImagesFolder)};
     Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
     if (!checkComponents(program))
         return 1;

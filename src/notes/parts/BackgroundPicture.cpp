@@ -2,46 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/BackgroundPicture.h"
 
+#include "notes/parts/PictureFile.h"
+
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QScreen>
 
-#include <array>
-
 namespace {
 
-constexpr qint64 MostPixels = 100'000'000;
-constexpr int MostMegabytes = 512;
-
-bool isAllowed(const QByteArray &format)
+/// No side shorter than a screen's longest needs.
+QSize wholeDesktop()
 {
-    static const std::array<QByteArray, 7> Allowed{"bmp", "dib", "gif", "jpg", "jpeg", "ico", "cur"};
-    return std::find(Allowed.begin(), Allowed.end(), format) != Allowed.end();
-}
-
-/// No side shorter than a screen's longest needs, none longer than the picture's own.
-QSize decodedSize(QSize size)
-{
-    const QSize screen = QGuiApplication::primaryScreen()->virtualSize() * QGuiApplication::primaryScreen()->devicePixelRatio();
-    const QSize covering = size.scaled(screen, Qt::KeepAspectRatioByExpanding);
-    return covering.width() < size.width() ? covering : size;
-}
-
-QPixmap decoded(const QString &path)
-{
-    QImageReader reader(path);
-    reader.setAllocationLimit(MostMegabytes);
-    reader.setAutoTransform(true);
-    if (!isAllowed(reader.format()))
-        return {};
-    const QSize size = reader.size();
-    if (!size.isValid() || static_cast<qint64>(size.width()) * size.height() > MostPixels)
-        return {};
-    reader.setScaledSize(decodedSize(size));
-    return QPixmap::fromImage(reader.read());
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen->virtualSize() * screen->devicePixelRatio();
 }
 
 } // namespace
@@ -61,7 +36,7 @@ bool BackgroundPicture::load(const QString &path)
                             .arg(file.lastModified().toMSecsSinceEpoch());
     m_scaled = {};
     if (!QPixmapCache::find(key, &m_picture)) {
-        m_picture = file.isFile() ? decoded(path) : QPixmap();
+        m_picture = QPixmap::fromImage(pictureFile::read(path, wholeDesktop()));
         if (!m_picture.isNull())
             QPixmapCache::insert(key, m_picture);
     }

@@ -70,6 +70,13 @@ void NoteBody::setLook(const QFont &font, const NoteInk &ink)
     dressTextBox();
 }
 
+void NoteBody::setInk(const NoteInk &ink)
+{
+    m_ink = ink;
+    m_text->setInk(ink.ink);
+    dressTextBox();
+}
+
 void NoteBody::setText(const QString &text)
 {
     m_text->setCaption(modForms::DoubleFirstAmpersand(text));

@@ -26,6 +26,7 @@ public:
     /// False hides both layers.
     void setShown(bool shown);
     void setLook(const QFont &font, const NoteInk &ink);
+    void setInk(const NoteInk &ink);
     void setText(const QString &text);
     /// An empty path takes the picture away. False when the file cannot be shown.
     bool setPicture(const QString &path);

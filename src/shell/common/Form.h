@@ -55,6 +55,8 @@ public:
     virtual clsNoteProps *recordOf(qint32) { return nullptr; }
     /// Somebody has changed that record: show it, and arm its alarm, anew.
     virtual void recordChanged(qint32) {}
+    /// Said while the window is still as the user left it, before it is closed for good.
+    virtual void keepPlace() {}
     virtual void Destroy() {}
     virtual void ResetAlarms() {}
     /// Puts what is being typed into the record.

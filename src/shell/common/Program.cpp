@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/Printing.h"
 #include "platform/Prompts.h"
+#include "platform/SoundPlayer.h"
 
 #include <QLocale>
 

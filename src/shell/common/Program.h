@@ -18,6 +18,7 @@ class Choosers;
 class Clock;
 class Printing;
 class Prompts;
+class SoundPlayer;
 
 /// What the parts of the program are handed to reach the world outside; a test hands in its own.
 struct Services
@@ -27,6 +28,7 @@ struct Services
     std::unique_ptr<Choosers> choosers;
     std::unique_ptr<Printing> printing;
     std::unique_ptr<Browser> browser;
+    std::unique_ptr<SoundPlayer> sound;
     Pictures pictures;
 };
 
@@ -45,6 +47,7 @@ public:
     Choosers &choosers() { return *m_services.choosers; }
     Printing &printing() { return *m_services.printing; }
     Browser &browser() { return *m_services.browser; }
+    SoundPlayer &sound() { return *m_services.sound; }
     const Pictures &pictures() const { return m_services.pictures; }
     const ProgramPaths &paths() const { return file.paths; }
 

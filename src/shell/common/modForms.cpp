@@ -99,6 +99,8 @@ void CloseAllWindows(Program &program)
 {
     modTimers::SetAutoSave(program, false);
     const auto all = program.forms.loaded();
+    for (Form *form : all)
+        form->keepPlace();
     for (auto form = all.rbegin(); form != all.rend(); ++form) {
         if (!program.forms.isLoaded(*form) || (*form)->formName() == formNames::Menu)
             continue;

@@ -47,6 +47,9 @@ bool SaveAllWithProgress(Program &program);
 /// Moves every note of the desktop into the NoteStack, with a progress window that can stop it.
 void TransferAllToNoteStack(Program &program);
 
+/// Moves notes one by one, with a progress window that can stop it and one write of the data file at the end.
+void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags, const std::function<void(qint32)> &move);
+
 // Texts.
 
 /// The text with its first "&" doubled.

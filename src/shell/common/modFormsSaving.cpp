@@ -175,28 +175,41 @@ bool SaveAllWithProgress(Program &program)
     return true;
 }
 
-void TransferAllToNoteStack(Program &program)
+void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags, const std::function<void(qint32)> &move)
 {
-    const auto notes = program.forms.notes();
-    if (notes.empty())
-        return;
-    const auto status = showStatus(
-        program, QCoreApplication::translate("Saving", "Transferring ... - Quillets"),
-        QCoreApplication::translate("Saving", "Transferring all Quillets to NoteStack ..."), static_cast<int>(notes.size()));
+    const auto status = showStatus(program, QCoreApplication::translate("Saving", "Transferring ... - Quillets"), text,
+                                   static_cast<int>(tags.size()));
     SaveBatch batch(program.file);
     int moved = 0;
-    for (Form *note : notes) {
+    for (const qint32 tag : tags) {
         QCoreApplication::processEvents();
-        if (status->Cancelled)
+        if (status->Cancelled || program.Exiting)
             break;
-        if (!program.forms.isLoaded(note))
-            continue;
-        note->ToTheNoteStack();
+        move(tag);
         status->setValue(++moved);
     }
     status->hide();
-    if (const auto outcome = batch.end(); !outcome)
-        tellFailure(program, outcome.error());
+    const auto outcome = batch.end();
+    if (outcome)
+        return;
+    for (Form *form : program.forms.loaded())
+        for (const qint32 tag : tags)
+            form->markUnsaved(tag);
+    tellFailure(program, outcome.error());
+}
+
+void TransferAllToNoteStack(Program &program)
+{
+    std::vector<qint32> tags;
+    for (const Form *note : program.forms.notes())
+        tags.push_back(note->Tag());
+    if (tags.empty())
+        return;
+    const QString text = QCoreApplication::translate("Saving", "Transferring all Quillets to NoteStack ...");
+    moveAll(program, text, tags, [&program](qint32 tag) {
+        if (Form *note = program.forms.note(tag))
+            note->ToTheNoteStack();
+    });
 }
 
 } // namespace modForms

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialogs/settingsFields.h"
+
+#include <QWidget>
+
+class CheckRow;
+class ColourButton;
+class FileButton;
+class FontPreview;
+class PictureThumbnail;
+class Program;
+class QGroupBox;
+class QPushButton;
+
+/// Colours, background picture and font of a note. Each choice is written into the fields at once.
+class AppearancePage final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// In what the two dialogs that show the page differ.
+    struct Texts
+    {
+        QString pictureTitle;
+        QString changeFont;
+    };
+
+    AppearancePage(Program &program, AppearanceFields fields, const Texts &texts, QWidget *parent);
+
+    void showFields();
+    /// False, after a box, when a picture is to be shown and none is chosen.
+    bool isComplete();
+
+    QWidget *fontField() const;
+    QWidget *pictureField() const;
+
+private:
+    QGroupBox *makeColours();
+    QGroupBox *makeFont(const QString &changeFont);
+    void connectControls();
+    void chooseColour(qint32 &field);
+    void chooseFont();
+    void choosePicture();
+
+    Program &m_program;
+    AppearanceFields m_fields;
+    QString m_pictureTitle;
+    ColourButton *m_foreColor;     // cmdForeColor
+    ColourButton *m_backColor;     // cmdBackColor
+    CheckRow *m_pictureOn;         // chkBackPic
+    FileButton *m_picture;         // cmdPicFile
+    PictureThumbnail *m_thumbnail; // imgPicture
+    FontPreview *m_preview = nullptr;
+    QPushButton *m_font = nullptr; // cmdFont
+};

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "dialogs/frmOptions.h"
+
+#include "dialogs/AppearancePage.h"
+#include "dialogs/AttentionGroup.h"
+#include "model/modCopyObject.h"
+#include "model/optionsFile.h"
+#include "platform/Prompts.h"
+#include "shell/common/Program.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+namespace
+{
+
+constexpr float SmallestSide = 720; // twips
+constexpr float LargestSide = 7200;
+
+enum Page
+{
+    General,
+    Appearance,
+    AlarmPassword
+};
+
+bool isSide(float twips)
+{
+    return twips >= SmallestSide && twips <= LargestSide;
+}
+
+} // namespace
+
+frmOptions::frmOptions(Program &program, QWidget *owner)
+    : TabbedDialog(program, QStringLiteral("frmOptions"), tr("Program Options - Quillets"), owner),
+      m_appearance(new AppearancePage(program, AppearanceFields::of(m_options),
+                                      {tr("Open Picture File"), tr("Change font o&ptions")}, this))
+{
+    QWidget *general = makeGeneral();
+    addPage(QStringLiteral("fraOptions0"), tr("General"), general, m_firstText);
+    addPage(QStringLiteral("fraOptions1"), tr("Appearance"), m_appearance, m_appearance->fontField());
+    QWidget *alarm = makeAlarmPassword();
+    addPage(QStringLiteral("fraOptions2"), tr("Alarm/Password"), alarm, m_attention->soundSwitch());
+    QWidget *networking = makeNetworking();
+    addPage(QStringLiteral("fraOptions3"), tr("Networking"), networking, m_emailAddress);
+    QPushButton *defaults = buttons().addButton(tr("De&faults"), QDialogButtonBox::ResetRole);
+    defaults->setObjectName(QStringLiteral("cmdDefaults"));
+    defaults->setAutoDefault(false);
+    connect(defaults, &QPushButton::clicked, this, [this] { Initialize(this->program().DefaultOptions); });
+}
+
+void frmOptions::Initialize(const clsprogramoptions &options)
+{
+    modCopyObject::CopyOptions(options, m_options);
+    for (const auto &fill : m_fill)
+        fill();
+    m_appearance->showFields();
+    m_attention->showFields();
+}
+
+bool frmOptions::OptionsResult(clsprogramoptions &options)
+{
+    if (result() != Accepted)
+        return false;
+    modCopyObject::CopyOptions(m_options, options);
+    program().BuildNoteDefaults();
+    const auto saved = modFileIO::SaveOptionsFile(program().paths(), options);
+    if (!saved)
+        program().prompts().tell(
+            {tr("The options could not be saved.\n%1").arg(saved.error()), tr("Error"), Message::Icon::Critical}, this);
+    return true;
+}
+
+bool frmOptions::isInOrder()
+{
+    if (!m_appearance->isComplete()) {
+        select(Appearance, m_appearance->pictureField());
+        return false;
+    }
+    if (!m_attention->isComplete()) {
+        select(AlarmPassword, m_attention->soundField());
+        return false;
+    }
+    if (isSizeRight())
+        return true;
+    select(General, m_firstSize);
+    return false;
+}
+
+bool frmOptions::isSizeRight()
+{
+    if (isSide(m_options.FrmHeight) && isSide(m_options.FrmWidth))
+        return true;
+    program().prompts().tell(
+        {tr("The default dimensions of a Quillet cannot be less than 0.5 inches or greater than 5 inches.") + u'\n' +
+             tr("Please enter valid dimensions."),
+         tr("Quillet Dimensions Error"), Message::Icon::Critical},
+        this);
+    return false;
+}

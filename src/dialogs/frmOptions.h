@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialogs/TabbedDialog.h"
+#include "model/clsprogramoptions.h"
+
+class AppearancePage;
+class AttentionGroup;
+class NumberBox;
+class QFormLayout;
+class QGroupBox;
+class QLayout;
+class QLineEdit;
+
+/// The program-wide options. Works on its own copy; the live options get it from OptionsResult alone.
+class frmOptions final : public TabbedDialog
+{
+    Q_OBJECT
+
+public:
+    frmOptions(Program &program, QWidget *owner);
+
+    /// Copies the options when OK was chosen, rebuilds what new notes start from and saves the options file; a file
+    /// that cannot be written is told. To be called with the program's own options.
+    bool OptionsResult(clsprogramoptions &options);
+    void Initialize(const clsprogramoptions &options);
+
+protected:
+    bool isInOrder() override;
+
+private:
+    // frmOptionsPages.cpp
+    QWidget *makeGeneral();
+    QGroupBox *makePersonal(QWidget *page);
+    QGroupBox *makeMiscellaneous(QWidget *page);
+    QWidget *makeAlarmPassword();
+    QWidget *makeNetworking();
+    QGroupBox *makeSend(QWidget *page);
+    QGroupBox *makeEmail(QWidget *page);
+    QLineEdit *addText(QFormLayout *rows, const QString &name, const QString &caption, QString &field);
+    void addCheck(QLayout *layout, const QString &name, const QString &caption, bool &field);
+    NumberBox *makeSize(const QString &name, const QString &accessibleName, float &field);
+    NumberBox *makePort();
+    void addBook(QFormLayout *rows, const QString &name, const QString &caption, const QString &title, QString &field);
+
+    bool isSizeRight();
+
+    clsprogramoptions m_options;
+    std::vector<std::function<void()>> m_fill; ///< Each shows one field of the options.
+    QWidget *m_firstText = nullptr;            // txtName
+    QWidget *m_firstSize = nullptr;            // txtSizeHeight
+    QWidget *m_emailAddress = nullptr;         // txtEmailAddress
+    AppearancePage *m_appearance;
+    AttentionGroup *m_attention = nullptr;
+};

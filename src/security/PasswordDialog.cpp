@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "security/PasswordDialog.h"
+
+#include "platform/Prompts.h"
+#include "security/secrets.h"
+#include "shell/common/Program.h"
+#include "shell/common/modForms.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+PasswordDialog::PasswordDialog(Program &program, QStringView name, const QString &caption, QWidget *owner)
+    : QDialog(owner), Form(program.forms, name.toString()), m_program(program), m_rows(new QFormLayout(this))
+{
+    setObjectName(formName());
+    setWindowTitle(caption);
+    setModal(true);
+    setMinimumWidth(LeastWidth);
+    m_rows->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_rows->setVerticalSpacing(Margin / 2);
+    m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+PasswordDialog::~PasswordDialog()
+{
+    wipeBoxes();
+    modForms::ShowNoteWindows(m_program);
+}
+
+QLabel *PasswordDialog::addText(const QString &name, const QString &text)
+{
+    auto *label = new QLabel(this);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    m_rows->addRow(label);
+    return label;
+}
+
+QLineEdit *PasswordDialog::addBox(const QString &suffix, const QString &caption)
+{
+    auto *box = new QLineEdit(this);
+    box->setObjectName(QStringLiteral("txtPwd") + suffix);
+    box->setEchoMode(QLineEdit::Password);
+    auto *label = new QLabel(caption, this);
+    label->setObjectName(QStringLiteral("lblPwd") + suffix);
+    label->setBuddy(box);
+    m_rows->addRow(label, box);
+    m_boxes.push_back(box);
+    return box;
+}
+
+void PasswordDialog::addButtons()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &PasswordDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &PasswordDialog::reject);
+    m_rows->addRow(buttons);
+}
+
+void PasswordDialog::tell(const QString &text)
+{
+    m_program.prompts().tell({.text = text}, this);
+}
+
+void PasswordDialog::wipeBoxes()
+{
+    for (QLineEdit *box : m_boxes)
+        secrets::wipe(*box);
+}

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "shell/frmAbout.h"
+
+#include "dialogs/controls/showModally.h"
+#include "shell/common/Program.h"
+#include "shell/common/modForms.h"
+#include "shell/frmCredits.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace
+{
+
+constexpr int Margin = 24;
+constexpr int LogoSide = 64;
+constexpr int NamePoints = 24;
+
+QLabel *label(const QString &name, const QString &text, QWidget *parent)
+{
+    auto *made = new QLabel(text, parent);
+    made->setObjectName(name);
+    made->setTextFormat(Qt::PlainText);
+    return made;
+}
+
+} // namespace
+
+frmAbout::frmAbout(Program &program, QWidget *owner)
+    : QDialog(owner), Form(program.forms, QStringLiteral("frmAbout")), m_program(program)
+{
+    setObjectName(formName());
+    setWindowTitle(tr("About Quillets"));
+    setModal(true);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin * 3 / 4);
+    layout->setSpacing(Margin);
+    layout->addWidget(makeHead());
+    layout->addWidget(makeButtons());
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+frmAbout::~frmAbout()
+{
+    modForms::ShowNoteWindows(m_program);
+}
+
+QWidget *frmAbout::makeHead()
+{
+    auto *head = new QWidget(this);
+    auto *logo = label(QStringLiteral("imgQuilletsLogo"), {}, head);
+    logo->setPixmap(m_program.pictures().programIcon().pixmap(QSize(LogoSide, LogoSide), devicePixelRatioF()));
+    auto *name = label(QStringLiteral("lblName"), QStringLiteral("Quillets"), head);
+    QFont serif(QStringLiteral("Times New Roman"), NamePoints, QFont::Bold);
+    serif.setStyleHint(QFont::Serif);
+    name->setFont(serif);
+    auto *grid = new QGridLayout(head);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(Margin);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(logo, 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(name, 0, 1);
+    grid->addWidget(label(QStringLiteral("lblVersion"), tr("Version 1.0.0 (August 2000)"), head), 1, 1);
+    grid->addWidget(label(QStringLiteral("lblPlatforms"), tr("Platforms: MS Windows 95, 98, NT "), head), 2, 1);
+    return head;
+}
+
+QWidget *frmAbout::makeButtons()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    QPushButton *credits = buttons->addButton(tr("&Credits"), QDialogButtonBox::HelpRole);
+    credits->setObjectName(QStringLiteral("cmdCredits"));
+    credits->setAutoDefault(false);
+    connect(buttons, &QDialogButtonBox::accepted, this, &frmAbout::accept);
+    connect(credits, &QPushButton::clicked, this, &frmAbout::showCredits);
+    return buttons;
+}
+
+void frmAbout::showCredits()
+{
+    const QPointer<frmCredits> credits = new frmCredits(m_program, this);
+    if (showModally(credits))
+        credits->unload();
+}

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "shell/frmCredits.h"
+
+#include "shell/common/Program.h"
+#include "shell/common/modForms.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace
+{
+
+constexpr int Margin = 24;
+
+QLabel *label(const QString &text, QWidget *parent)
+{
+    auto *made = new QLabel(text, parent);
+    made->setTextFormat(Qt::PlainText);
+    made->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return made;
+}
+
+} // namespace
+
+frmCredits::frmCredits(Program &program, QWidget *owner)
+    : QDialog(owner), Form(program.forms, QStringLiteral("frmCredits")), m_program(program)
+{
+    setObjectName(formName());
+    setWindowTitle(tr("Credits - Quillets"));
+    setModal(true);
+    auto *rows = new QFormLayout(this);
+    rows->setContentsMargins(Margin, Margin, Margin, Margin * 3 / 4);
+    rows->setHorizontalSpacing(Margin);
+    rows->setVerticalSpacing(Margin / 2);
+    rows->addRow(tr("Program:"), label(tr("Written by the Quillets developers,\nfree under the MIT licence."), this));
+    rows->addRow(tr("Windows:"), label(tr("Qt %1, under the GNU Lesser General\nPublic License, version 3.")
+                                           .arg(QString::fromLatin1(qVersion())),
+                                       this));
+    rows->addRow(tr("Pictures:"), label(tr("Drawn for Quillets, under its licence."), this));
+    rows->addRow(tr("Fonts:"), label(tr("Those of your desktop; none come with Quillets."), this));
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &frmCredits::accept);
+    rows->addRow(buttons);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+frmCredits::~frmCredits()
+{
+    modForms::ShowNoteWindows(m_program);
+}

@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "alarms/NoteAlarm.h"
+#include "alarms/NoteFlash.h"
+#include "alarms/modAlarm.h"
+#include "support/TestProgram.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+
+namespace {
+
+const QDateTime Noon(QDate(2026, 3, 1), QTime(12, 0));
+
+/// One note with an alarm on a clock moved by hand.
+struct Note
+{
+    TestProgram test{Noon};
+    clsNoteProps record;
+    bool gone = false;
+    NoteAlarm alarm{test.program, [this] { return gone ? nullptr : &record; }};
+    QSignalSpy fired{&alarm, &NoteAlarm::fired};
+    QSignalSpy armedChanged{&alarm, &NoteAlarm::armedChanged};
+
+    void arm(qint64 seconds)
+    {
+        const QDateTime moment = test.clock.now().addSecs(seconds);
+        record.AlarmOn = true;
+        modAlarm::setAlarmDate(record, moment.date());
+        modAlarm::setAlarmTime(record, moment.time());
+        alarm.ArmNoteAlarm();
+    }
+};
+
+} // namespace
+
+class testNoteAlarm final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void firesOnceToTheSecond();
+    void waitsInDaysForLaterDates();
+    void pastAlarmFiresFromTheEventLoop();
+    void switchingOffStops();
+    void destroyKeepsTheRecord();
+    void nothingFiresDuringALoad();
+    void clockSet_data();
+    void clockSet();
+    void noteMayGo();
+    void systemClockIsOnTime();
+    void systemAlarmsStopAndStartAnew();
+    void flashes();
+    void flashStops();
+};
+
+void testNoteAlarm::firesOnceToTheSecond()
+{
+    Note note;
+    note.arm(30);
+    QVERIFY(note.alarm.isArmed());
+    note.test.clock.advance(29);
+    QCOMPARE(note.fired.count(), 0);
+    note.test.clock.advance(1);
+    QCOMPARE(note.fired.count(), 1);
+    QVERIFY(!note.record.AlarmOn && !note.alarm.isArmed());
+    QCOMPARE(note.record.SaveTag, 1);
+    QCOMPARE(note.armedChanged, (QList<QVariantList>{{true}, {false}}));
+    note.alarm.ArmNoteAlarm();
+    note.test.clock.advance(3 * 86400);
+    QCOMPARE(note.fired.count(), 1);
+}
+
+void testNoteAlarm::waitsInDaysForLaterDates()
+{
+    Note note;
+    QDateTime firedAt;
+    connect(&note.alarm, &NoteAlarm::fired, this, [&] { firedAt = note.test.clock.now(); });
+    note.arm(3 * 86400 + 20 * 3600);
+    note.test.clock.advance(10 * 86400);
+    QCOMPARE(firedAt, Noon.addSecs(3 * 86400 + 20 * 3600));
+    QCOMPARE(note.test.clock.wakeCount, 4);
+    QCOMPARE(note.armedChanged.count(), 2);
+}
+
+void testNoteAlarm::pastAlarmFiresFromTheEventLoop()
+{
+    Note note;
+    note.arm(-100'000);
+    QCOMPARE(note.fired.count(), 0);
+    note.test.clock.advance(0);
+    QCOMPARE(note.fired.count(), 1);
+}
+
+void testNoteAlarm::switchingOffStops()
+{
+    Note note;
+    note.arm(30);
+    note.arm(60);
+    QCOMPARE(note.test.clock.runningCount(), 1);
+    note.test.clock.advance(59);
+    QCOMPARE(note.fired.count(), 0);
+    note.record.AlarmOn = false;
+    note.alarm.ArmNoteAlarm();
+    QCOMPARE(note.test.clock.runningCount(), 0);
+    QVERIFY(!note.alarm.isArmed());
+}
+
+void testNoteAlarm::destroyKeepsTheRecord()
+{
+    Note note;
+    note.arm(30);
+    note.alarm.Destroy();
+    note.test.clock.set(Noon.addSecs(60));
+    QCOMPARE(note.fired.count(), 0);
+    QVERIFY(note.record.AlarmOn);
+    QCOMPARE(note.record.SaveTag, 0);
+}
+
+void testNoteAlarm::nothingFiresDuringALoad()
+{
+    Note note;
+    note.test.program.file.LoadingData = true;
+    note.arm(-5);
+    note.test.clock.advance(10);
+    QCOMPARE(note.fired.count(), 0);
+    QVERIFY(note.alarm.isArmed() && note.record.AlarmOn);
+    note.test.program.file.LoadingData = false;
+    note.alarm.ArmNoteAlarm();
+    note.test.clock.advance(0);
+    QCOMPARE(note.fired.count(), 1);
+}
+
+void testNoteAlarm::clockSet_data()
+{
+    QTest::addColumn<int>("setTo"); // seconds from noon
+    QTest::addColumn<int>("firesAt");
+    QTest::newRow("forward past the alarm") << 7200 << 7200;
+    QTest::newRow("forward before it") << 1800 << 3600;
+    QTest::newRow("back") << -7200 << 3600;
+    QTest::newRow("back by days") << -3 * 86400 << 3600;
+}
+
+void testNoteAlarm::clockSet()
+{
+    QFETCH(int, setTo);
+    QFETCH(int, firesAt);
+    Note note;
+    QDateTime firedAt;
+    connect(&note.alarm, &NoteAlarm::fired, this, [&] { firedAt = note.test.clock.now(); });
+    note.arm(3600);
+    note.test.clock.set(Noon.addSecs(setTo));
+    note.test.clock.passTo(Noon.addDays(1));
+    QCOMPARE(firedAt, Noon.addSecs(firesAt));
+}
+
+void testNoteAlarm::noteMayGo()
+{
+    Note note;
+    note.arm(5);
+    note.gone = true;
+    note.test.clock.advance(5);
+    QCOMPARE(note.fired.count(), 0);
+
+    clsNoteProps record = note.record;
+    record.AlarmOn = true;
+    auto *alarm = new NoteAlarm(note.test.program, [&record] { return &record; });
+    connect(alarm, &NoteAlarm::fired, this, [alarm] { alarm->deleteLater(); });
+    alarm->ArmNoteAlarm();
+    note.test.clock.advance(0);
+    QVERIFY(!record.AlarmOn);
+}
+
+void testNoteAlarm::systemClockIsOnTime()
+{
+    SystemClock clock;
+    const auto alarm = clock.makeAlarm();
+    QSignalSpy due(alarm.get(), &WallAlarm::due);
+    const QDateTime moment = clock.now().addMSecs(700);
+    alarm->start(moment);
+    QVERIFY(due.wait(1200));
+    QVERIFY(clock.now() >= moment);
+    QVERIFY(!alarm->isRunning());
+    alarm->start(QDateTime(QDate(1, 1, 1), QTime(0, 0)));
+    QCOMPARE(due.count(), 1);
+    QVERIFY(due.wait(1000));
+}
+
+void testNoteAlarm::systemAlarmsStopAndStartAnew()
+{
+    SystemClock clock;
+    const auto stopped = clock.makeAlarm();
+    const auto moved = clock.makeAlarm();
+    const auto last = clock.makeAlarm();
+    QSignalSpy stoppedDue(stopped.get(), &WallAlarm::due);
+    QSignalSpy movedDue(moved.get(), &WallAlarm::due);
+    QSignalSpy lastDue(last.get(), &WallAlarm::due);
+    stopped->start(clock.now());
+    moved->start(clock.now());
+    stopped->stop();
+    moved->start(clock.now().addDays(40'000));
+    last->start(clock.now().addMSecs(100));
+    QVERIFY(lastDue.wait(1000));
+    QCOMPARE(stoppedDue.count() + movedDue.count(), 0);
+    QVERIFY(moved->isRunning());
+}
+
+void testNoteAlarm::flashes()
+{
+    NoteFlash flash;
+    QStringList steps;
+    connect(&flash, &NoteFlash::raiseWanted, this, [&] { steps << QStringLiteral("raise"); });
+    connect(&flash, &NoteFlash::colourChanged, this, [&](const QColor &colour) { steps << colour.name(); });
+    QElapsedTimer timer;
+    timer.start();
+    flash.StartFlashing(QColor(0xFF, 0xF0, 0x01));
+    QCOMPARE(steps.join(u' '), QStringLiteral("raise #000ffe"));
+    QTRY_COMPARE_WITH_TIMEOUT(steps.size(), 4, 2500);
+    QVERIFY(timer.elapsed() > 1800);
+    QCOMPARE(steps.mid(2).join(u' '), QStringLiteral("raise #fff001"));
+}
+
+void testNoteAlarm::flashStops()
+{
+    NoteFlash flash;
+    QSignalSpy colours(&flash, &NoteFlash::colourChanged);
+    flash.StopFlashing();
+    QCOMPARE(colours.count(), 0);
+    flash.StartFlashing(Qt::yellow);
+    flash.StartFlashing(Qt::red);
+    QCOMPARE(colours.last().first().value<QColor>(), QColor(Qt::cyan));
+    flash.StopFlashing();
+    QCOMPARE(colours.last().first().value<QColor>(), QColor(Qt::red));
+    QVERIFY(!flash.isFlashing());
+}
+
+QTEST_MAIN(testNoteAlarm)
+#include "testNoteAlarm.moc"

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "platform/SoundPlayer.h"
+#include "platform/WaveFile.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLibrary>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+#include <cstring>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+namespace {
+
+/// Half a second of silence, 8000 samples a second.
+QByteArray wave()
+{
+    constexpr int Samples = 4000;
+    QByteArray bytes("RIFF\0\0\0\0WAVEfmt \x10\0\0\0\x01\0\x01\0\x40\x1f\0\0\x80\x3e\0\0\x02\0\x10\0data", 40);
+    bytes += QByteArray("\x40\x1f\0\0", 4);
+    return bytes + QByteArray(Samples * 2, '\0');
+}
+
+/// Listens, accepts and never answers. It stays open to the end of the process, as a server outlives its clients.
+int deadServer(const QByteArray &path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (size_t(path.size()) >= sizeof address.sun_path)
+        return -1;
+    std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
+    const int server = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool listens = ::bind(server, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 &&
+                         ::listen(server, 4) == 0;
+    return listens ? server : -1;
+}
+
+bool isCalled(int server)
+{
+    pollfd wait{server, POLLIN, 0};
+    constexpr int Patience = 20'000; // ms
+    return ::poll(&wait, 1, Patience) == 1;
+}
+
+} // namespace
+
+class testSound final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void files_data();
+    void files();
+    void everyTruncation();
+    void foldersAndHugeFiles();
+    void libraryHasItsFunction();
+    void deadSoundServerDelaysNothing();
+
+private:
+    QString write(const QByteArray &bytes)
+    {
+        QFile file(m_folder.filePath(QStringLiteral("sound.wav")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("Sound file not written");
+        return file.fileName();
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void testSound::files_data()
+{
+    QTest::addColumn<int>("at"); // where the good file is overwritten
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("playable");
+    const auto row = [](const char *name, int at, const char *bytes, qsizetype length, bool playable) {
+        QTest::newRow(name) << at << QByteArray(bytes, length) << playable;
+    };
+    row("good", 0, "RIFF", 4, true);
+    row("other container", 0, "RIFX", 4, false);
+    row("other content", 8, "AVI ", 4, false);
+    row("compressed", 20, "\x55", 1, false);
+    row("no channels", 22, "\0\0", 2, false);
+    row("a thousand channels", 22, "\xe8\x03", 2, false);
+    row("no rate", 24, "\0\0\0\0", 4, false);
+    row("no bits", 34, "\0\0", 2, false);
+    row("frames of no size", 32, "\0\0", 2, false);
+    row("format too short", 16, "\x08", 1, false);
+    row("no format", 12, "LIST\xff\xff\xff\xff", 8, false);
+}
+
+void testSound::files()
+{
+    QFETCH(int, at);
+    QFETCH(QByteArray, bytes);
+    QTEST(waveFile::isPlayable(write(wave().replace(at, bytes.size(), bytes))), "playable");
+}
+
+void testSound::everyTruncation()
+{
+    constexpr int FormatEnd = 36;
+    for (int keep = 0; keep <= FormatEnd; ++keep)
+        QCOMPARE(waveFile::isPlayable(write(wave().first(keep))), keep == FormatEnd);
+}
+
+void testSound::foldersAndHugeFiles()
+{
+    QVERIFY(!waveFile::isPlayable(m_folder.path()));
+    QVERIFY(!waveFile::isPlayable(m_folder.filePath(QStringLiteral("missing.wav"))));
+    QFile file(write(wave()));
+    QVERIFY(file.resize(1'000'000'000));
+    QVERIFY(!waveFile::isPlayable(file.fileName()));
+}
+
+void testSound::libraryHasItsFunction()
+{
+    QLibrary library(QStringLiteral(SOUND_LIBRARY));
+    QVERIFY2(library.resolve("quilletsPlayWave") != nullptr, qPrintable(library.errorString()));
+}
+
+void testSound::deadSoundServerDelaysNothing()
+{
+    const QByteArray path = m_folder.filePath(QStringLiteral("sound.sock")).toLocal8Bit();
+    const int server = deadServer(path);
+    QVERIFY(server >= 0);
+    qputenv("PULSE_SERVER", "unix:" + path);
+    QElapsedTimer timer;
+    timer.start();
+    {
+        WaveSound sound{QStringLiteral(SOUND_LIBRARY)};
+        sound.play(write(wave()));
+        sound.play(m_folder.filePath(QStringLiteral("missing.wav")));
+        QVERIFY(timer.elapsed() < 500);
+        QVERIFY(isCalled(server));
+        timer.restart();
+    }
+    QVERIFY(timer.elapsed() < 1000);
+}
+
+QTEST_GUILESS_MAIN(testSound)
+#include "testSound.moc"

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/parts/NoteBody.h"
+#include "support/failOnWarnings.h"
+
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+/// What is read and what is typed look the same.
+class testNoteText final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void drawsWhatTheTextBoxDraws_data();
+    void drawsWhatTheTextBoxDraws();
+    void drawsWhereItIsScrolledTo();
+    void showsMegabytes_data();
+    void showsMegabytes();
+};
+
+void testNoteText::drawsWhatTheTextBoxDraws_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("lines") << u"2 l milk\r\nBread & butter && jam\r\n\r\nCoffee, whole beans"_s;
+    QTest::newRow("words that wrap") << u"A line that is rather long and breaks more than once, and  wide   gaps"_s;
+    QTest::newRow("a word that does not fit") << u"Donaudampfschifffahrtsgesellschaftskapitänsmützenabzeichen end"_s;
+    QTest::newRow("tabs") << u"\tone\r\na\tb\tc\td\r\n1234567890123\tx"_s;
+    QTest::newRow("blanks at line ends") << u"first      \r\n     second                                          third"_s;
+    QTest::newRow("Japanese") << u"歯医者に電話する。\r\n保険証番号は青いファイルの中にあります、忘れないこと"_s;
+    QTest::newRow("emoji") << u"🎂 at four 🐕\r\nx🎂y"_s;
+    QTest::newRow("Hebrew and Arabic") << u"שלום עולם שלום\r\nmixed שלום text\r\nمرحبا بالعالم"_s;
+    QTest::newRow("accents and ligatures") << u"Crème brûlée, ½ l, office fluffy e\u0301"_s;
+    QTest::newRow("no-break blanks") << u"a\u00a0b\u00a0c\u00a0d\u00a0e\u00a0f\u00a0g\u00a0h\u00a0i\u00a0j\u00a0k\u00a0l\u00a0m\u00a0n"_s;
+    QTest::newRow("line separators") << u"one\u2028two\u2029three"_s;
+    QTest::newRow("other line ends") << u"one\ntwo\rthree\r\n"_s;
+    QTest::newRow("zero in the middle") << u"one"_s + QChar() + u"two"_s;
+    QTest::newRow("half a character") << u"one"_s + QChar(0xD83C) + u"two"_s;
+    QTest::newRow("empty") << u""_s;
+}
+
+void testNoteText::drawsWhatTheTextBoxDraws()
+{
+    QFETCH(QString, text);
+    QFont italic(u"DejaVu Serif"_s, 12);
+    italic.setItalic(true);
+    for (const QFont &font : {QFont(u"DejaVu Sans"_s, 9), italic, QFont(u"DejaVu Sans Mono"_s, 8, QFont::Bold),
+                              QFont(u"Liberation Serif"_s, 11), QFont(u"Noto Sans CJK JP"_s, 10)}) {
+        QWidget note;
+        note.resize(210, 190);
+        note.setStyleSheet(u"background: rgb(255, 255, 200)"_s);
+        NoteBody body(&note);
+        body.setGeometry(note.rect());
+        body.setLook(font, NoteInk::from(0xC8FFFF, 0));
+        body.setText(text);
+        const QImage display = note.grab().toImage();
+        body.BeginTextEditing(text);
+        const QImage box = note.grab().toImage();
+        if (display == box)
+            continue;
+        const QString name = QStringLiteral("%1-%2-%3.png").arg(QLatin1String(QTest::currentDataTag()), font.family());
+        display.save(name.arg(u"display"_s));
+        box.save(name.arg(u"box"_s));
+        QFAIL(qPrintable(name));
+    }
+}
+
+void testNoteText::drawsWhereItIsScrolledTo()
+{
+    QWidget window;
+    NoteText text(&window);
+    text.resize(200, 100);
+    QString lines;
+    for (int i = 0; i < 50; ++i)
+        lines += QStringLiteral("line %1\r\n").arg(i);
+    text.setCaption(lines);
+    const QImage top = text.grab().toImage();
+    const auto wheel = [&text](int notches) {
+        QWheelEvent event({50, 50}, {50, 50}, {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&text, &event);
+        return text.grab().toImage();
+    };
+    QVERIFY(wheel(-1) != top);
+    QCOMPARE(wheel(1), top);
+    QCOMPARE(wheel(5), top);
+    const QImage end = wheel(-1000);
+    QVERIFY(end != top);
+    QCOMPARE(wheel(-1), end);
+}
+
+void testNoteText::showsMegabytes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("lines") << u"a line of usual length\r\n"_s.repeated(200000);
+    QTest::newRow("one line") << u"words "_s.repeated(800000);
+    QTest::newRow("one word") << QString(5000000, u'x');
+    QTest::newRow("empty lines") << u"\r\n"_s.repeated(2500000);
+}
+
+void testNoteText::showsMegabytes()
+{
+    QFETCH(QString, text);
+    QWidget window;
+    window.resize(200, 150);
+    NoteText shown(&window);
+    shown.resize(window.size());
+    shown.setCaption(text);
+    const QImage whole = shown.grab().toImage();
+    shown.setCaption(text.left(20000));
+    QCOMPARE(shown.grab().toImage(), whole);
+}
+
+QTEST_MAIN(testNoteText)
+#include "testNoteText.moc"

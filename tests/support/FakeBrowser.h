@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Browser.h"
+
+#include <QUrl>
+
+/// Notes the page that was asked for last.
+class FakeBrowser final : public Browser
+{
+public:
+    bool isThere = true;
+    QUrl last;
+
+    bool open(const QUrl &page) override
+    {
+        last = page;
+        return isThere;
+    }
+};
