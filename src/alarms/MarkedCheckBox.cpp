@@ -8,7 +8,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-namespace {
+namespace
+{
 
 constexpr int MarkDistance = 3;
 constexpr qreal MarkWidth = 1.5;
@@ -69,8 +70,9 @@ void MarkedCheckBox::setChecked(bool on)
 bool MarkedCheckBox::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
+    // Dialogs send a first focus event to a control that has no focus yet.
     if (watched == m_box && (type == QEvent::FocusIn || type == QEvent::FocusOut))
-        m_mark->setVisible(type == QEvent::FocusIn);
+        m_mark->setVisible(type == QEvent::FocusIn && m_box->hasFocus());
     if (watched == m_label && type == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
         labelClicked();
@@ -86,6 +88,5 @@ void MarkedCheckBox::labelClicked()
 void MarkedCheckBox::resizeEvent(QResizeEvent *)
 {
     layout()->activate();
-    m_mark->setGeometry(
-        m_box->geometry().adjusted(-MarkDistance, -MarkDistance, MarkDistance, MarkDistance));
+    m_mark->setGeometry(m_box->geometry().adjusted(-MarkDistance, -MarkDistance, MarkDistance, MarkDistance));
 }

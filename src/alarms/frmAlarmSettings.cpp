@@ -21,7 +21,8 @@
 #include <QPushButton>
 #include <QTimeEdit>
 
-namespace {
+namespace
+{
 
 constexpr int Margin = 18;
 constexpr int SoundButtonWidth = 2600; // design twips
@@ -190,7 +191,8 @@ void frmAlarmSettings::showSoundFile()
 
 void frmAlarmSettings::chooseSoundFile()
 {
-    const FileRequest request{tr("Open sound file"), {tr("WAV Files (*.wav)"), tr("All Files (*.*)")}, m_alarm.SoundFile};
+    const FileRequest request{
+        tr("Open sound file"), {tr("WAV Files (*.wav)"), tr("All Files (*.*)")}, m_alarm.SoundFile};
     const QPointer<frmAlarmSettings> self = this;
     const auto chosen = m_program.choosers().openFile(request, this);
     if (self == nullptr || isUnloaded())

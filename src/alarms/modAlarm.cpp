@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <optional>
 
-namespace modAlarm {
-namespace {
+namespace modAlarm
+{
+namespace
+{
 
 constexpr qint32 Day = 86400; // seconds
 constexpr qint32 Hour = 3600;

@@ -5,7 +5,8 @@
 #include <QDateTime>
 
 /// When an alarm goes off. All of it is computed from what is handed in; nothing looks at a clock.
-namespace modAlarm {
+namespace modAlarm
+{
 
 /// Date and time of an alarm as records keep them: local time, numbers that need not make a date. Made from any
 /// record that has an alarm.
@@ -15,8 +16,7 @@ struct AlarmMoment
     AlarmMoment(const Record &record)
         : year(record.AlarmDateYear), month(record.AlarmDateMonth), day(record.AlarmDateDay),
           hour(record.AlarmTimeHour), minute(record.AlarmTimeMinute), second(record.AlarmTimeSecond)
-    {
-    }
+    {}
 
     int year;
     int month;

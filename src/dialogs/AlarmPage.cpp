@@ -58,22 +58,26 @@ void AlarmPage::makePickers()
     m_date->setCalendarPopup(true);
     m_time->setObjectName(QStringLiteral("dtpAlarmTime"));
     m_time->setDisplayFormat(timeFormat());
+    m_time->setMinimumWidth(m_date->sizeHint().width());
 }
 
 void AlarmPage::layOut()
 {
     auto *inner = new QVBoxLayout(m_frame);
-    inner->setContentsMargins(Indent, 0, 0, 0);
+    inner->setContentsMargins(Indent - CheckRow::MarkRoom, 0, 0, 0);
     inner->setSpacing(2 * Spacing);
     auto *pickers = new QFormLayout;
     pickers->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    pickers->setContentsMargins(CheckRow::MarkRoom, 0, 0, 0);
+    pickers->setVerticalSpacing(Spacing);
+    pickers->setHorizontalSpacing(2 * Spacing);
     pickers->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     pickers->addRow(tr("&Date:"), m_date);
     pickers->addRow(tr("&Time:"), m_time);
     inner->addLayout(pickers);
     inner->addWidget(m_attention);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(CheckRow::MarkRoom, 0, 0, 0);
     layout->setSpacing(Spacing);
     layout->addWidget(m_on);
     layout->addWidget(m_frame);

@@ -56,14 +56,14 @@ QGroupBox *AppearancePage::makeColours()
     auto *group = new QGroupBox(tr("Colors and Backgrounds"), this);
     auto *grid = new QGridLayout(group);
     grid->setHorizontalSpacing(Spacing);
-    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
     grid->addWidget(caption(tr("&Text color:"), m_foreColor), 0, 0);
     grid->addWidget(m_foreColor, 0, 1);
     grid->addWidget(caption(tr("&Background color:"), m_backColor), 1, 0);
     grid->addWidget(m_backColor, 1, 1);
-    grid->addWidget(m_pictureOn, 2, 0, 1, 2);
-    grid->addWidget(m_picture, 3, 0, 1, 2);
-    grid->addWidget(m_thumbnail, 0, 2, 4, 1, Qt::AlignTop);
+    grid->addWidget(m_pictureOn, 2, 0, 1, 3);
+    grid->addWidget(m_picture, 3, 0, 1, 3);
+    grid->addWidget(m_thumbnail, 0, 3, 4, 1, Qt::AlignVCenter);
     return group;
 }
 
@@ -74,6 +74,7 @@ QGroupBox *AppearancePage::makeFont(const QString &changeFont)
     m_font = new QPushButton(changeFont, group);
     m_font->setObjectName(QStringLiteral("cmdFont"));
     m_font->setAutoDefault(false);
+    m_font->setMinimumWidth(m_font->sizeHint().width() + 2 * Spacing);
     auto *layout = new QVBoxLayout(group);
     layout->addWidget(m_preview);
     layout->addWidget(m_font, 0, Qt::AlignLeft);

@@ -20,7 +20,8 @@ AttentionGroup::AttentionGroup(Program &program, AttentionFields fields, const Q
       m_sound(new FileButton(QStringLiteral("cmdSoundFile"), tr("Sound file"), this))
 {
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setContentsMargins(CheckRow::MarkRoom, 0, 0, 0);
+    grid->setVerticalSpacing(CheckRow::MarkRoom);
     grid->setColumnStretch(1, 1);
     grid->addWidget(new QLabel(tr("Getting attention:"), this), 0, 0, 1, 2);
     grid->addWidget(m_flash, 1, 0, 1, 2);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "notes/NoteToolbar.h"
 
+#include "platform/toolTips.h"
+
 #include <QMouseEvent>
 
 namespace {
@@ -71,7 +73,7 @@ void NoteToolbar::showFitting()
         text.truncate(qMax(qsizetype(0), text.lastIndexOf(QLatin1Char(' '))));
     const bool tellsSomething = text.size() >= ShortestDate || text == m_date;
     m_edit->setText(tellsSomething ? text : QString());
-    m_edit->setToolTip(m_date);
+    m_edit->setToolTip(toolTips::plain(m_date));
 }
 
 void NoteToolbar::setInk(const QColor &ink, const QColor &faintInk)

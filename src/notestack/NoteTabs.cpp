@@ -3,6 +3,7 @@
 #include "notestack/NoteTabs.h"
 
 #include "notes/parts/TextShortening.h"
+#include "platform/toolTips.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -48,8 +49,7 @@ void NoteTabs::setTitle(int tab, const QString &title)
     const QString shown = textShortening::shortened(title, WidestCaption, font());
     // The text of a tab marks a letter after "&"; doubled it is the character itself.
     setTabText(tab, QString(shown).replace(u'&', QLatin1String("&&")));
-    constexpr qsizetype LongestTip = 1000;
-    setTabToolTip(tab, title.left(LongestTip).toHtmlEscaped());
+    setTabToolTip(tab, toolTips::plain(title));
 }
 
 QString NoteTabs::caption(int tab) const

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "notestack/StackToolbar.h"
 
+#include "platform/toolTips.h"
+
 #include <QMouseEvent>
 
 using namespace std::chrono_literals;
@@ -68,7 +70,7 @@ void StackToolbar::layOut()
     m_edit->setGeometry(left, 0, qMax(0, width() - left - StatusRight), height());
     const bool fits = m_edit->fontMetrics().horizontalAdvance(m_status) <= m_edit->width();
     m_edit->setText(fits ? m_status : QString());
-    m_edit->setToolTip(m_status);
+    m_edit->setToolTip(toolTips::plain(m_status));
 }
 
 void StackToolbar::setInk(const QColor &ink, const QColor &faintInk)

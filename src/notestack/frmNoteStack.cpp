@@ -16,6 +16,7 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -79,9 +80,11 @@ void frmNoteStack::makeParts()
         m_toolbar->button(command).setToolTip(tr("Not in this version yet."));
     }
     m_overlay = new LockOverlay(m_page);
-    m_empty = new QLabel(tr("NoteStack is empty"), m_page);
-    m_empty->setObjectName(QStringLiteral("lblEmpty"));
-    m_empty->setAlignment(Qt::AlignCenter);
+    m_empty = new QWidget(m_page);
+    m_empty->setObjectName(QStringLiteral("fraEmpty"));
+    auto *empty = new QLabel(tr("NoteStack is empty"));
+    empty->setObjectName(QStringLiteral("lblEmpty"));
+    (new QVBoxLayout(m_empty))->addWidget(empty, 0, Qt::AlignCenter);
     m_grip = new QLabel(m_page);
     m_grip->setObjectName(QStringLiteral("imgResize"));
     m_grip->setCursor(Qt::SizeFDiagCursor);

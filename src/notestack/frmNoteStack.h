@@ -130,7 +130,7 @@ private:
     PictureButton *m_exit = nullptr;    // imgExit
     StackToolbar *m_toolbar = nullptr;  // fraToolBar
     LockOverlay *m_overlay = nullptr;   // fraPassword
-    QLabel *m_empty = nullptr;          // fraEmpty, lblEmpty
+    QWidget *m_empty = nullptr;         // fraEmpty, lblEmpty
     QLabel *m_grip = nullptr;           // imgResize
     NoteMenu *m_noteMenu = nullptr;     // mnuPopup2
     NoteMenu *m_shortMenu = nullptr;    // mnuPopup

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Choosers.h"
 
+#include "platform/WindowStacking.h"
+
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDialog>
@@ -14,6 +16,7 @@ std::optional<QString> DesktopChoosers::openFile(const FileRequest &request, QWi
     dialog.setNameFilters(request.filters);
     if (!request.current.isEmpty())
         dialog.selectFile(request.current);
+    windowStacking::keepAboveNotes(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().constFirst();
@@ -21,13 +24,16 @@ std::optional<QString> DesktopChoosers::openFile(const FileRequest &request, QWi
 
 std::optional<QColor> DesktopChoosers::colour(const QColor &current, QWidget *owner)
 {
-    const QColor chosen = QColorDialog::getColor(current, owner);
-    return chosen.isValid() ? std::optional(chosen) : std::nullopt;
+    QColorDialog dialog(current, owner);
+    dialog.setObjectName(QStringLiteral("ColourChooser"));
+    windowStacking::keepAboveNotes(dialog);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedColor()) : std::nullopt;
 }
 
 std::optional<QFont> DesktopChoosers::font(const QFont &current, QWidget *owner)
 {
-    bool accepted = false;
-    const QFont chosen = QFontDialog::getFont(&accepted, current, owner);
-    return accepted ? std::optional(chosen) : std::nullopt;
+    QFontDialog dialog(current, owner);
+    dialog.setObjectName(QStringLiteral("FontChooser"));
+    windowStacking::keepAboveNotes(dialog);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedFont()) : std::nullopt;
 }

@@ -22,7 +22,8 @@
 
 using namespace std::chrono_literals;
 
-namespace {
+namespace
+{
 
 /// For systems without timers of the wall clock: looks at the clock again after at most a minute.
 class SteppingAlarm final : public WallAlarm
@@ -66,7 +67,8 @@ private:
 
 #if defined(Q_OS_LINUX)
 
-namespace {
+namespace
+{
 
 /// Seconds since 1970 that no clock is ever set to (the year 2255).
 constexpr qint64 NeverSeconds = 9'000'000'000;
@@ -75,7 +77,12 @@ constexpr qint64 NeverSeconds = 9'000'000'000;
 class TimerFile
 {
 public:
-    enum class Reading { Nothing, Expired, ClockWasSet };
+    enum class Reading
+    {
+        Nothing,
+        Expired,
+        ClockWasSet
+    };
 
     TimerFile() : m_file(::timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC)) {}
     TimerFile(const TimerFile &) = delete;

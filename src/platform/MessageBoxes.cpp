@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/MessageBoxes.h"
 
+#include "platform/WindowStacking.h"
+
 #include <QMessageBox>
 
 namespace {
@@ -29,7 +31,6 @@ Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
     const bool cancel = message.buttons == Message::Buttons::OkCancel;
     box.setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(QMessageBox::Ok);
-    // A box above notes that stay on top must not hide behind them.
-    box.setWindowFlag(Qt::WindowStaysOnTopHint, owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    windowStacking::keepAboveNotes(box);
     return box.exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
 }

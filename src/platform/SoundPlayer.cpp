@@ -15,7 +15,8 @@
 
 using namespace std::chrono_literals;
 
-namespace {
+namespace
+{
 /// Far more than a thread needs that is not stuck.
 constexpr auto EndOfThread = 100ms;
 constexpr auto LibraryName = "quillets_sound";
@@ -91,7 +92,8 @@ void WaveSound::play(const QString &wavPath)
 {
     if (m_thread == nullptr)
         startThread();
-    QMetaObject::invokeMethod(m_worker, [worker = m_worker, wavPath] { worker->play(wavPath); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        m_worker, [worker = m_worker, wavPath] { worker->play(wavPath); }, Qt::QueuedConnection);
 }
 
 void WaveSound::startThread()

@@ -8,8 +8,10 @@
 
 #include <array>
 
-namespace waveFile {
-namespace {
+namespace waveFile
+{
+namespace
+{
 
 constexpr qint64 LargestFile = 64LL * 1024 * 1024;
 constexpr qint64 TagSize = 4;

@@ -4,7 +4,8 @@
 
 #include <QString>
 
-namespace waveFile {
+namespace waveFile
+{
 
 /// True for a file that begins as a wave file of plain samples and is at most 64 MB long. It reads no samples, and
 /// touches nothing that is not a regular file.

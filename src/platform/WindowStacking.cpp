@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/WindowStacking.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QWidget>
 #include <QWindow>
+
+#include <algorithm>
 
 #ifdef QUILLETS_HAS_XCB
 #include <xcb/xcb.h>
@@ -67,6 +69,16 @@ void SetWindowOnTop(QWidget &window, bool onTop)
     if (QWindow *handle = window.windowHandle())
         handle->setFlag(Qt::WindowStaysOnTopHint, onTop);
     sendNow();
+}
+
+void keepAboveNotes(QWidget &dialog)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    const bool covered = std::any_of(windows.begin(), windows.end(), [&dialog](const QWidget *window) {
+        return window != &dialog && window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    });
+    if (covered)
+        dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
 void bringForward(QWidget &window)

@@ -9,6 +9,9 @@ namespace windowStacking {
 
 /// In or out of the band of windows above all others; neither hides the window nor moves the focus.
 void SetWindowOnTop(QWidget &window, bool onTop);
+/// A dialog must not open beneath notes that stay on top: it stays there too while there are such. To be said before
+/// it is shown.
+void keepAboveNotes(QWidget &dialog);
 /// To the front of its band, at once, without the focus, also while another program has it.
 void bringForward(QWidget &window);
 /// To the front and with the focus.

@@ -22,6 +22,7 @@ PasswordDialog::PasswordDialog(Program &program, QStringView name, const QString
     setMinimumWidth(LeastWidth);
     m_rows->setContentsMargins(Margin, Margin, Margin, Margin);
     m_rows->setVerticalSpacing(Margin / 2);
+    m_rows->setHorizontalSpacing(Margin * 2 / 3);
     m_rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
@@ -63,6 +64,7 @@ void PasswordDialog::addButtons()
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
     connect(buttons, &QDialogButtonBox::accepted, this, &PasswordDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &PasswordDialog::reject);
+    buttons->setContentsMargins(0, Margin / 2, 0, 0);
     m_rows->addRow(buttons);
 }
 

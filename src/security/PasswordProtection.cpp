@@ -45,6 +45,7 @@ PasswordProtection::PasswordProtection(Program &program, PasswordFields fields, 
     m_choices->setObjectName(QStringLiteral("fraPasswordIn"));
     m_change->setObjectName(QStringLiteral("cmdChangePwd"));
     m_change->setAutoDefault(false);
+    m_change->setMinimumWidth(m_change->sizeHint().width() + Indent);
     m_openClose->explain(tr("The note opens locked."));
     m_readOnly->explain(tr("Changing or sending the note asks for the password."));
     layOut();
@@ -64,7 +65,7 @@ void PasswordProtection::layOut()
     choices->addSpacing(2 * Spacing);
     choices->addWidget(m_change, 0, Qt::AlignLeft);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(CheckRow::MarkRoom, 0, 0, 0);
     layout->setSpacing(Spacing);
     layout->addWidget(m_protection);
     layout->addWidget(m_choices);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "security/noteLocks.h"
 
+#include "dialogs/controls/showModally.h"
 #include "platform/Prompts.h"
 #include "security/frmEnterPwd.h"
 #include "shell/common/Program.h"
@@ -33,8 +34,7 @@ bool AuthenticateNote(Program &program, const QString &description, const QStrin
     // The window it belongs to may go while it is open, and takes it along.
     const QPointer<frmEnterPwd> dialog = new frmEnterPwd(program, owner);
     dialog->Initialize(description);
-    dialog->exec();
-    if (dialog == nullptr)
+    if (!showModally(dialog))
         return false;
     const bool accepted = dialog->passOn(pwd);
     dialog->unload();

@@ -70,15 +70,21 @@ QWidget *frmAbout::makeHead()
 
 QWidget *frmAbout::makeButtons()
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    QPushButton *credits = buttons->addButton(tr("&Credits"), QDialogButtonBox::HelpRole);
+    auto *row = new QWidget(this);
+    auto *credits = new QPushButton(tr("&Credits"), row);
     credits->setObjectName(QStringLiteral("cmdCredits"));
     credits->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &frmAbout::accept);
     connect(credits, &QPushButton::clicked, this, &frmAbout::showCredits);
-    return buttons;
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, row);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &frmAbout::accept);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(credits);
+    layout->addStretch();
+    layout->addWidget(buttons);
+    return row;
 }
 
 void frmAbout::showCredits()

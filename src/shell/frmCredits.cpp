@@ -33,6 +33,7 @@ frmCredits::frmCredits(Program &program, QWidget *owner)
     setModal(true);
     auto *rows = new QFormLayout(this);
     rows->setContentsMargins(Margin, Margin, Margin, Margin * 3 / 4);
+    rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     rows->setHorizontalSpacing(Margin);
     rows->setVerticalSpacing(Margin / 2);
     rows->addRow(tr("Program:"), label(tr("Written by the Quillets developers,\nfree under the MIT licence."), this));
@@ -44,6 +45,7 @@ frmCredits::frmCredits(Program &program, QWidget *owner)
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
     connect(buttons, &QDialogButtonBox::accepted, this, &frmCredits::accept);
+    buttons->setContentsMargins(0, Margin / 2, 0, 0);
     rows->addRow(buttons);
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }

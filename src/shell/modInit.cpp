@@ -59,7 +59,7 @@ void checkFile(Program &program, bool &on, const QString &path, const QString &b
 void nameApplication()
 {
     QApplication::setApplicationName(QStringLiteral("quillets"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillets"));
+    // No display name: window systems would write it behind every caption.
     QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.quillets.Quillets"));
     QApplication::setQuitOnLastWindowClosed(false);

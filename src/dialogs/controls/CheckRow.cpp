@@ -11,7 +11,6 @@
 namespace
 {
 
-constexpr int MarkRoom = 4;
 constexpr qreal MarkRadius = 3;
 
 class FocusMark final : public QWidget
@@ -41,7 +40,7 @@ QString withoutMnemonic(QString text)
 } // namespace
 
 CheckRow::CheckRow(const QString &name, const QString &caption, QWidget *parent)
-    : QWidget(parent), m_box(new QCheckBox(this)), m_caption(new QLabel(caption, this)), m_mark(new FocusMark(this))
+    : QWidget(parent), m_box(new QCheckBox(this)), m_caption(new QLabel(caption, this)), m_mark(new FocusMark(parent))
 {
     m_box->setObjectName(QStringLiteral("chk") + name);
     m_box->setAccessibleName(withoutMnemonic(caption));
@@ -53,8 +52,8 @@ CheckRow::CheckRow(const QString &name, const QString &caption, QWidget *parent)
     setFocusProxy(m_box);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(MarkRoom, MarkRoom, MarkRoom + 2, MarkRoom);
-    layout->setSpacing(MarkRoom);
+    layout->setContentsMargins(0, MarkRoom, MarkRoom, MarkRoom);
+    layout->setSpacing(MarkRoom + 2);
     layout->addWidget(m_box);
     layout->addWidget(m_caption);
 }
@@ -77,11 +76,21 @@ bool CheckRow::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+void CheckRow::moveEvent(QMoveEvent *event)
+{
+    QWidget::moveEvent(event);
+    placeMark();
+}
+
 void CheckRow::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    m_mark->setGeometry(rect());
-    m_mark->raise();
+    placeMark();
+}
+
+void CheckRow::placeMark()
+{
+    m_mark->setGeometry(geometry().adjusted(-MarkRoom, 0, 0, 0));
 }
 
 void CheckRow::captionClicked()

@@ -8,7 +8,7 @@ namespace
 {
 
 constexpr int Width = 72;
-constexpr int Inset = 6;
+constexpr int Inset = 5;
 constexpr qreal Radius = 2;
 
 } // namespace
@@ -31,7 +31,7 @@ void ColourButton::setColour(const QColor &colour)
 
 QSize ColourButton::sizeHint() const
 {
-    return {Width, QPushButton::sizeHint().height()};
+    return {Width, QPushButton::sizeHint().height() + Inset};
 }
 
 void ColourButton::paintEvent(QPaintEvent *event)

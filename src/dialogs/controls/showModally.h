@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/WindowStacking.h"
+
 #include <QPointer>
 
 /// Shows a form that was just made until it is closed, and tells whether its result may still be asked for: the
 /// window it belongs to, or the whole program, may go while it is open.
 template <class Dialog> [[nodiscard]] bool showModally(const QPointer<Dialog> &dialog)
 {
+    windowStacking::keepAboveNotes(*dialog);
     dialog->exec();
     return dialog != nullptr && !dialog->isUnloaded();
 }

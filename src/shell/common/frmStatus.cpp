@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/common/frmStatus.h"
 
+#include "platform/WindowStacking.h"
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 
@@ -38,6 +39,7 @@ frmStatus::frmStatus(Program &program)
     layout->addWidget(m_bar);
     layout->addWidget(cancel, 0, Qt::AlignRight);
     modForms::ScaleForm(*this, DesignSize);
+    windowStacking::keepAboveNotes(*this);
 }
 
 void frmStatus::Initialize(const QString &text, int total)
