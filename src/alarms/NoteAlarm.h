@@ -34,7 +34,7 @@ public:
 
 signals:
     void armedChanged(bool armed);
-    /// The alarm went off; it is off in the record, which counts as changed. The note may go in answer.
+    /// The alarm went off; it is off in the record, which counts as changed. The note may go in answer, by deleteLater.
     void fired();
 
 private:

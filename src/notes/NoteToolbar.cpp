@@ -16,16 +16,17 @@ struct ButtonRow
 {
     const char *name;
     const char *caption;
-    const char *picture;
+    const char *up;
+    const char *down;
 };
 
 constexpr std::array<ButtonRow, NoteLayout::ToolbarImages> Rows{{
-    {"imgHelp", QT_TRANSLATE_NOOP("NoteToolbar", "Help"), "help"},
-    {"imgSettings", QT_TRANSLATE_NOOP("NoteToolbar", "Quillet Settings"), "settings"},
-    {"imgEmail", QT_TRANSLATE_NOOP("NoteToolbar", "E-mail A Quillet"), "email"},
-    {"imgSend", QT_TRANSLATE_NOOP("NoteToolbar", "Send A Quillet"), "send"},
-    {"imgAlarm", QT_TRANSLATE_NOOP("NoteToolbar", "Alarm Settings"), "alarm"},
-    {"imgPassword", QT_TRANSLATE_NOOP("NoteToolbar", "Password Settings"), "password"},
+    {"imgHelp", QT_TRANSLATE_NOOP("NoteToolbar", "Help"), "helpupsmall.gif", "helpdownsmall.gif"},
+    {"imgSettings", QT_TRANSLATE_NOOP("NoteToolbar", "Quillet Settings"), "settingsupsmall.gif", "settingsdownsmall.gif"},
+    {"imgEmail", QT_TRANSLATE_NOOP("NoteToolbar", "E-mail A Quillet"), "emailupsmall.gif", "emaildownsmall.gif"},
+    {"imgSend", QT_TRANSLATE_NOOP("NoteToolbar", "Send A Quillet"), "sendupsmall.gif", "senddownsmall.gif"},
+    {"imgAlarm", QT_TRANSLATE_NOOP("NoteToolbar", "Alarm Settings"), "alarmupsmall.gif", "alarmdownsmall.gif"},
+    {"imgPassword", QT_TRANSLATE_NOOP("NoteToolbar", "Password Settings"), "passwordupsmall.gif", "passworddownsmall.gif"},
 }};
 
 } // namespace
@@ -35,8 +36,7 @@ NoteToolbar::NoteToolbar(const Pictures &pictures, QWidget *note) : QWidget(note
     setObjectName(QStringLiteral("fraButtons"));
     for (size_t i = 0; i < Rows.size(); ++i) {
         auto *button = new PictureButton(pictures, QLatin1String(Rows[i].name), this);
-        const QString picture = QLatin1String(Rows[i].picture);
-        button->setPictures(picture + QStringLiteral("upsmall.gif"), picture + QStringLiteral("downsmall.gif"));
+        button->setPictures(QLatin1String(Rows[i].up), QLatin1String(Rows[i].down));
         button->setCaption(tr(Rows[i].caption));
         connect(button, &PictureButton::commanded, this, [this, i] { emit commanded(static_cast<Command>(i)); });
         m_buttons[i] = button;

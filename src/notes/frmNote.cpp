@@ -143,7 +143,7 @@ void frmNote::markUnsaved(qint32 tag)
 
 void frmNote::commitEditing()
 {
-    m_title->endEditing();
+    m_title->commitQuietly();
     m_body->commit();
 }
 
@@ -197,7 +197,12 @@ void frmNote::signalAlarm()
     if (m_record.FlashOn)
         m_flash.StartFlashing(m_ink.paper);
     if (m_record.SoundFileOn)
-        m_program.sound().play(m_record.SoundFile);
+        PlayAlarmSound();
+}
+
+void frmNote::PlayAlarmSound()
+{
+    m_program.sound().play(m_record.SoundFile);
 }
 
 /// The colours of the record stay as they are; only what is seen alternates.

@@ -65,6 +65,7 @@ public:
     void Destroy() override;
     void ResetAlarms() override;
     void commitEditing() override;
+    void lockNote(qint32) override { lockform(); }
     void recordChanged(qint32 tag) override;
     std::vector<qint32> changedTags() const override;
     void markUnsaved(qint32 tag) override;
@@ -89,6 +90,7 @@ private:
     void beginTextEditing();
     void EndTextEditing();
     void signalAlarm();
+    void PlayAlarmSound();
     void showFlash(const QColor &paper);
 
     // frmNoteCommands.cpp

@@ -146,7 +146,10 @@ void frmNote::run(NoteCommand command)
     case Scrolled: scrollStep(); break;
     case OnTop: toggleOnTop(); break;
     case Locked: m_locked ? unlock() : lockform(); break;
-    case Copy: noteClipboard::copy(m_record.Data); break;
+    case Copy:
+        if (!m_locked)
+            noteClipboard::copy(m_record.Data);
+        break;
     case Paste: paste(); break;
     case Delete: deleteNote(); break;
     case Help: modHelp::ShowHelp(m_program); break;
@@ -222,8 +225,9 @@ void frmNote::ToTheNoteStack()
     commitEditing();
     Destroy();
     const clsNoteProps record = m_record;
+    const bool locked = m_locked;
     unload();
-    modCreateNote::CreateNote(m_program, record, true, NoteCreateMode::Move);
+    modCreateNote::moveNote(m_program, record, true, locked);
 }
 
 QString frmNote::shortTitle() const

@@ -153,8 +153,8 @@ void frmNote::scrollStep()
                      up);
     m_handles->setMode(up, m_locked);
     if (up) {
-        if (isReady() || !(m_record.FrmHeightBefore > twips.fromPixels(NoteLayout::rolledHeight())))
-            m_record.FrmHeightBefore = isReady() ? twips.fromPixels(height()) : m_record.FrmHeightBefore;
+        if (isReady())
+            m_record.FrmHeightBefore = twips.fromPixels(height());
         resize(width(), NoteLayout::rolledHeight());
     } else {
         const int before = twips.toPixels(m_record.FrmHeightBefore);

@@ -94,14 +94,6 @@ qint32 createOnDesktop(Program &program, clsNoteProps record, NoteCreateMode mod
     return tag;
 }
 
-/// A moved note changes its place in the data file at once and is never absent from it.
-void writeMoved(Program &program, qint32 tag)
-{
-    Form *holder = program.forms.holderOf(tag);
-    if (clsNoteProps *record = holder != nullptr ? holder->recordOf(tag) : nullptr)
-        modForms::saveNote(program, *record);
-}
-
 } // namespace
 
 void tellLimit(Program &program)
@@ -117,11 +109,19 @@ qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteC
         tellLimit(program);
         return 0;
     }
-    const qint32 tag =
-        toNoteStack ? createInStack(program, std::move(record), mode) : createOnDesktop(program, std::move(record), mode);
-    if (mode == NoteCreateMode::Move)
-        writeMoved(program, tag);
-    return tag;
+    return toNoteStack ? createInStack(program, std::move(record), mode) : createOnDesktop(program, std::move(record), mode);
+}
+
+/// The note changes its place in the data file in one step and is never absent from it.
+void moveNote(Program &program, const clsNoteProps &record, bool toNoteStack, bool locked)
+{
+    const qint32 tag = CreateNote(program, record, toNoteStack, NoteCreateMode::Move);
+    Form *holder = program.forms.holderOf(tag);
+    if (holder == nullptr)
+        return;
+    if (locked)
+        holder->lockNote(tag);
+    modForms::saveNote(program, *holder->recordOf(tag));
 }
 
 void createNewNote(Program &program, bool toNoteStack)

@@ -14,6 +14,8 @@ inline constexpr qint32 MostNotes = 100; ///< Created or restored in one run.
 /// Stamps the record and makes it a note on the desktop or in the NoteStack. At the limit a box is shown and nothing
 /// is created; moving a note is never refused. The result is the note's tag, 0 when there is none.
 qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteCreateMode mode);
+/// Moves a note to the other place and writes it there at once; one that was locked stays locked.
+void moveNote(Program &program, const clsNoteProps &record, bool toNoteStack, bool locked);
 /// The box that is shown at the limit.
 void tellLimit(Program &program);
 /// A fresh note from the program options, on the desktop or in the NoteStack.

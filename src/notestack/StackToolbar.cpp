@@ -21,20 +21,21 @@ struct ButtonRow
 {
     const char *name;
     const char *caption;
-    const char *picture;
+    const char *up;
+    const char *down;
 };
 
 constexpr std::array<ButtonRow, StackToolbar::Commands> Rows{{
-    {"imgAdd", QT_TRANSLATE_NOOP("StackToolbar", "Add A Quillet"), "add"},
-    {"imgDelete", QT_TRANSLATE_NOOP("StackToolbar", "Delete A Quillet"), "delete"},
-    {"imgToDesktop", QT_TRANSLATE_NOOP("StackToolbar", "Transfer Quillet To Desktop"), "desktop"},
-    {"imgSettings", QT_TRANSLATE_NOOP("StackToolbar", "Quillet Settings"), "settings"},
-    {"imgEmail", QT_TRANSLATE_NOOP("StackToolbar", "E-mail Quillet"), "email"},
-    {"imgSend", QT_TRANSLATE_NOOP("StackToolbar", "Send A Quillet"), "send"},
-    {"imgAlarm", QT_TRANSLATE_NOOP("StackToolbar", "Alarm Settings"), "alarm"},
-    {"imgPassword", QT_TRANSLATE_NOOP("StackToolbar", "Password Settings"), "password"},
-    {"imgHelp", QT_TRANSLATE_NOOP("StackToolbar", "Help"), "help"},
-    {"imgHide", QT_TRANSLATE_NOOP("StackToolbar", "Hide NoteStack"), "hide"},
+    {"imgAdd", QT_TRANSLATE_NOOP("StackToolbar", "Add A Quillet"), "addup.gif", "adddown.gif"},
+    {"imgDelete", QT_TRANSLATE_NOOP("StackToolbar", "Delete A Quillet"), "deleteup.gif", "deletedown.gif"},
+    {"imgToDesktop", QT_TRANSLATE_NOOP("StackToolbar", "Transfer Quillet To Desktop"), "desktopup.gif", "desktopdown.gif"},
+    {"imgSettings", QT_TRANSLATE_NOOP("StackToolbar", "Quillet Settings"), "settingsup.gif", "settingsdown.gif"},
+    {"imgEmail", QT_TRANSLATE_NOOP("StackToolbar", "E-mail Quillet"), "emailup.gif", "emaildown.gif"},
+    {"imgSend", QT_TRANSLATE_NOOP("StackToolbar", "Send A Quillet"), "sendup.gif", "senddown.gif"},
+    {"imgAlarm", QT_TRANSLATE_NOOP("StackToolbar", "Alarm Settings"), "alarmup.gif", "alarmdown.gif"},
+    {"imgPassword", QT_TRANSLATE_NOOP("StackToolbar", "Password Settings"), "passwordup.gif", "passworddown.gif"},
+    {"imgHelp", QT_TRANSLATE_NOOP("StackToolbar", "Help"), "helpup.gif", "helpdown.gif"},
+    {"imgHide", QT_TRANSLATE_NOOP("StackToolbar", "Hide NoteStack"), "hideup.gif", "hidedown.gif"},
 }};
 
 } // namespace
@@ -44,8 +45,7 @@ StackToolbar::StackToolbar(const Pictures &pictures, QWidget *parent) : QWidget(
     setObjectName(QStringLiteral("fraToolBar"));
     for (size_t i = 0; i < Rows.size(); ++i) {
         auto *button = new PictureButton(pictures, QLatin1String(Rows[i].name), this);
-        const QString picture = QLatin1String(Rows[i].picture);
-        button->setPictures(picture + QStringLiteral("up.gif"), picture + QStringLiteral("down.gif"));
+        button->setPictures(QLatin1String(Rows[i].up), QLatin1String(Rows[i].down));
         button->setCaption(tr(Rows[i].caption));
         button->setPause(Pause);
         connect(button, &PictureButton::commanded, this, [this, i] { emit commanded(static_cast<Command>(i)); });

@@ -45,7 +45,7 @@ frmNoteStack::frmNoteStack(Program &program)
     makeParts();
     connectParts();
     makeShortcuts();
-    modForms::ScaleForm(*this, UsualDesign);
+    ScaleNoteStack();
     restorePlace();
     showEmpty();
 }
@@ -124,6 +124,12 @@ void frmNoteStack::makeShortcuts()
     add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [step] { step(1); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [step] { step(-1); });
     add(QKeySequence(Qt::Key_F2), [this] { editTitle(); });
+}
+
+/// The controls are laid out in pixels; what is left to scale is the size that the window first has.
+void frmNoteStack::ScaleNoteStack()
+{
+    modForms::ScaleForm(*this, UsualDesign);
 }
 
 void frmNoteStack::Initialize()

@@ -59,6 +59,7 @@ public:
     std::vector<qint32> changedTags() const override;
     void markUnsaved(qint32 tag) override;
     clsNoteProps *recordOf(qint32 tag) override;
+    void lockNote(qint32 tag) override;
     void recordChanged(qint32 tag) override;
 
 protected:
@@ -72,6 +73,7 @@ protected:
 
 private:
     // frmNoteStack.cpp
+    void ScaleNoteStack();
     void makeParts();
     void makeShortcuts();
     void connectParts();
@@ -90,6 +92,7 @@ private:
     void dressPage(const StackNote &note);
     void ApplyTabAppearance(StackNote &note);
     void ApplyTabState(StackNote &note);
+    void ArmTabAlarm(StackNote &note);
     void showTitle(StackNote &note);
     void removeTab(size_t index);
     void renumber(size_t from);

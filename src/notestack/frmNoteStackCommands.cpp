@@ -106,7 +106,10 @@ void frmNoteStack::runOn(StackNote &note, NoteCommand command)
     case Print: print(note); break;
     case Title: editTitle(); break;
     case Locked: note.locked ? unlock() : ShowLockLayer(note, true); break;
-    case Copy: noteClipboard::copy(note.record.Data); break;
+    case Copy:
+        if (!note.locked)
+            noteClipboard::copy(note.record.Data);
+        break;
     case Paste: paste(note); break;
     case Delete: deleteNote(note.record.Tag); break;
     case Password:
@@ -329,8 +332,9 @@ void frmNoteStack::toDesktop(qint32 tag)
         return;
     m_notes[*index]->body->commit();
     const clsNoteProps record = m_notes[*index]->record;
+    const bool locked = m_notes[*index]->locked;
     removeTab(*index);
-    modCreateNote::CreateNote(m_program, record, false, NoteCreateMode::Move);
+    modCreateNote::moveNote(m_program, record, false, locked);
 }
 
 /// Notes leave from the chosen tab to the last, then those before it from the back; locked ones stay.

@@ -127,7 +127,7 @@ void frmNoteStack::ApplyTabState(StackNote &note)
     const qint32 tag = note.record.Tag;
     noteDressing::checkSound(m_program, note.record, this);
     if (indexOf(tag))
-        note.alarm->ArmNoteAlarm();
+        ArmTabAlarm(note);
 }
 
 void frmNoteStack::showTitle(StackNote &note)
@@ -256,6 +256,12 @@ void frmNoteStack::lockform(int index)
         ShowLockLayer(*note, true);
 }
 
+void frmNoteStack::lockNote(qint32 tag)
+{
+    if (const auto index = indexOf(tag))
+        ShowLockLayer(*m_notes[*index], true);
+}
+
 /// A list of all titles for when there are more tabs than fit.
 void frmNoteStack::showTabList()
 {
@@ -319,14 +325,21 @@ void frmNoteStack::recordChanged(qint32 tag)
     ApplyTabAppearance(note);
     if (!indexOf(tag))
         return;
-    note.alarm->ArmNoteAlarm();
+    ArmTabAlarm(note);
     ShowNewTitle();
+}
+
+void frmNoteStack::ArmTabAlarm(StackNote &note)
+{
+    note.alarm->ArmNoteAlarm();
+    if (&note == chosen())
+        m_toolbar->showState(&note.record);
 }
 
 void frmNoteStack::ResetAlarms()
 {
     for (const auto &note : m_notes)
-        note->alarm->ArmNoteAlarm();
+        ArmTabAlarm(*note);
 }
 
 void frmNoteStack::TextLostFocus()
@@ -337,7 +350,7 @@ void frmNoteStack::TextLostFocus()
 
 void frmNoteStack::commitEditing()
 {
-    m_title->endEditing();
+    m_title->commitQuietly();
     for (const auto &note : m_notes)
         note->body->commit();
 }

@@ -5,7 +5,6 @@
 #include "platform/WaveFile.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QLibrary>
 #include <QThread>
 
@@ -58,11 +57,12 @@ public:
 
     void play(const QString &wavPath)
     {
-        if (!waveFile::isPlayable(wavPath))
+        const auto samples = waveFile::read(wavPath);
+        if (!samples)
             return;
-        using PlayWave = void (*)(QObject *, const QString &);
+        using PlayWave = void (*)(QObject *, const WaveSamples &);
         if (const auto playWave = reinterpret_cast<PlayWave>(m_library.resolve(FunctionName)))
-            playWave(this, QFileInfo(wavPath).absoluteFilePath());
+            playWave(this, *samples);
     }
 
 private:

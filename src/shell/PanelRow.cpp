@@ -18,17 +18,16 @@ constexpr qreal CaptionPoints = 9.5;
 
 } // namespace
 
-PanelRow::PanelRow(const Pictures &pictures, const QString &name, const QString &caption, QWidget *panel)
-    : QAbstractButton(panel), m_pictures(pictures), m_file(QStringLiteral("panel") + name.toLower()),
+PanelRow::PanelRow(const Pictures &pictures, const Names &names, const QString &caption, QWidget *panel)
+    : QAbstractButton(panel), m_pictures(pictures), m_file(QLatin1String(names.file)),
       m_up(new QLabel(this)), m_down(new QLabel(this)), m_caption(new QLabel(caption, this))
 {
-    setObjectName(QStringLiteral("row") + name);
     setAccessibleName(caption);
     setFocusPolicy(Qt::StrongFocus);
-    m_up->setObjectName(QStringLiteral("img%1Up").arg(name));
-    m_down->setObjectName(QStringLiteral("img%1Down").arg(name));
+    m_up->setObjectName(QLatin1String(names.up));
+    m_down->setObjectName(QLatin1String(names.down));
     m_down->hide();
-    m_caption->setObjectName(QStringLiteral("lbl") + name);
+    m_caption->setObjectName(QLatin1String(names.caption));
     QFont font = m_caption->font();
     font.setPointSizeF(CaptionPoints);
     m_caption->setFont(font);

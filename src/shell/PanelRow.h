@@ -15,8 +15,16 @@ class PanelRow final : public QAbstractButton
     Q_OBJECT
 
 public:
-    /// `name` without prefix, as "New": the pictures are "imgNewUp" and "imgNewDown", the caption is "lblNew".
-    PanelRow(const Pictures &pictures, const QString &name, const QString &caption, QWidget *panel);
+    /// Object names of the two pictures and of the caption, and what the picture files begin with.
+    struct Names
+    {
+        const char *up;
+        const char *down;
+        const char *caption;
+        const char *file;
+    };
+
+    PanelRow(const Pictures &pictures, const Names &names, const QString &caption, QWidget *panel);
 
     /// Where the picture stands inside the row; the caption is beside it.
     void layOut(const QRect &row, int pictureLeft);

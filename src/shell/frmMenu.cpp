@@ -11,6 +11,7 @@
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 #include "shell/common/modHelp.h"
+#include "shell/frmAbout.h"
 #include "shell/modInit.h"
 
 #include <QCloseEvent>
@@ -27,23 +28,27 @@ constexpr int LogoGap = 10;
 constexpr int GripSide = 16;
 constexpr QSize SmallestPanel(300, 220);
 
-struct RowText
+struct Row
 {
-    const char *name;
+    PanelRow::Names names;
     const char *caption;
     int key; ///< Pressed with Alt.
 };
 
 /// In the order of the commands.
-constexpr std::array<RowText, 8> Rows{{
-    {"New", QT_TRANSLATE_NOOP("frmMenu", "New Desktop Quillet"), Qt::Key_N},
-    {"NoteStack", QT_TRANSLATE_NOOP("frmMenu", "View NoteStack"), Qt::Key_V},
-    {"DtoN", QT_TRANSLATE_NOOP("frmMenu", "All to NoteStack"), Qt::Key_A},
-    {"NtoD", QT_TRANSLATE_NOOP("frmMenu", "All to Desktop"), Qt::Key_D},
-    {"Save", QT_TRANSLATE_NOOP("frmMenu", "Save All Quillets"), Qt::Key_S},
-    {"Options", QT_TRANSLATE_NOOP("frmMenu", "Quillets Options"), Qt::Key_O},
-    {"Help", QT_TRANSLATE_NOOP("frmMenu", "Quillets Help"), Qt::Key_H},
-    {"Exit", QT_TRANSLATE_NOOP("frmMenu", "Quillets Exit"), Qt::Key_X},
+constexpr std::array<Row, 8> Rows{{
+    {{"imgNewUp", "imgNewDown", "lblNew", "panelnew"}, QT_TRANSLATE_NOOP("frmMenu", "New Desktop Quillet"), Qt::Key_N},
+    {{"imgNoteStackUp", "imgNoteStackDown", "lblNoteStack", "panelnotestack"},
+     QT_TRANSLATE_NOOP("frmMenu", "View NoteStack"),
+     Qt::Key_V},
+    {{"imgDtoNUp", "imgDtoNDown", "lblDtoN", "paneldton"}, QT_TRANSLATE_NOOP("frmMenu", "All to NoteStack"), Qt::Key_A},
+    {{"imgNtoDUp", "imgNtoDDown", "lblNtoD", "panelntod"}, QT_TRANSLATE_NOOP("frmMenu", "All to Desktop"), Qt::Key_D},
+    {{"imgSaveUp", "imgSaveDown", "lblSave", "panelsave"}, QT_TRANSLATE_NOOP("frmMenu", "Save All Quillets"), Qt::Key_S},
+    {{"imgOptionsUp", "imgOptionsDown", "lblOptions", "paneloptions"},
+     QT_TRANSLATE_NOOP("frmMenu", "Quillets Options"),
+     Qt::Key_O},
+    {{"imgHelpUp", "imgHelpDown", "lblHelp", "panelhelp"}, QT_TRANSLATE_NOOP("frmMenu", "Quillets Help"), Qt::Key_H},
+    {{"imgExitUp", "imgExitDown", "lblExit", "panelexit"}, QT_TRANSLATE_NOOP("frmMenu", "Quillets Exit"), Qt::Key_X},
 }};
 
 } // namespace
@@ -93,11 +98,8 @@ void frmMenu::makeRows()
 {
     for (size_t i = 0; i < Rows.size(); ++i) {
         const auto command = static_cast<Command>(i);
-        auto *row = new PanelRow(m_program.pictures(), QLatin1String(Rows[i].name), tr(Rows[i].caption), this);
+        auto *row = new PanelRow(m_program.pictures(), Rows[i].names, tr(Rows[i].caption), this);
         row->setShortcut(QKeyCombination(Qt::ALT, static_cast<Qt::Key>(Rows[i].key)));
-        const QString reason = unavailable(command);
-        row->setEnabled(reason.isEmpty());
-        row->setToolTip(reason);
         connect(row, &PanelRow::commanded, this, [this, command] { run(command); });
         m_rows[i] = row;
     }
@@ -137,12 +139,9 @@ void frmMenu::makeTray()
     }};
     m_popup = new QMenu(this);
     m_popup->setObjectName(QStringLiteral("mnuPopup"));
-    m_popup->setToolTipsVisible(true);
     for (const Entry &entry : Entries) {
         QAction *action = m_popup->addAction(tr(entry.caption));
         action->setObjectName(QLatin1String(entry.name));
-        action->setEnabled(unavailable(entry.command).isEmpty());
-        action->setToolTip(unavailable(entry.command));
         connect(action, &QAction::triggered, this, [this, command = entry.command] { run(command); });
     }
     m_tray = new TrayIcon(m_program.pictures().programIcon(), m_popup, this);
@@ -150,14 +149,9 @@ void frmMenu::makeTray()
     m_program.forms.changed = [this] { QMetaObject::invokeMethod(this, &frmMenu::showTip, Qt::QueuedConnection); };
 }
 
-QString frmMenu::unavailable(Command command) const
-{
-    return command == Command::About ? tr("Not in this version yet.") : QString();
-}
-
 void frmMenu::run(Command command)
 {
-    if (m_pressGuard || m_program.Exiting || command == Command::None || !unavailable(command).isEmpty())
+    if (m_pressGuard || m_program.Exiting || command == Command::None)
         return;
     m_pressGuard = true;
     if (isVisible())
@@ -183,7 +177,7 @@ void frmMenu::perform(Command command)
         if (Form *stack = m_program.forms.find(formNames::NoteStack))
             command == Command::NoteStack ? stack->showStack() : stack->TransferAllToDesktop();
         break;
-    case Command::About:
+    case Command::About: openAbout(); break;
     case Command::None: break;
     }
 }
@@ -198,6 +192,13 @@ void frmMenu::openOptions()
     dialog->unload();
     if (isVisible())
         windowStacking::SetForegroundWindow(*this);
+}
+
+void frmMenu::openAbout()
+{
+    const QPointer<frmAbout> dialog = new frmAbout(m_program, isVisible() ? this : nullptr);
+    if (showModally(dialog))
+        dialog->unload();
 }
 
 /// The column of pictures stands in the middle, the captions to the right of it, the logo to the left.

@@ -47,9 +47,8 @@ private:
     void layOutLogo(int width);
     void run(Command command);
     void perform(Command command);
-    /// Why a command cannot be given now; empty when it can.
-    QString unavailable(Command command) const;
     void openOptions();
+    void openAbout();
     void minimised();
     void showMenu();
     void showTip();

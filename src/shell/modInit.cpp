@@ -89,26 +89,28 @@ void showPanel(Program &program, frmSplash &splash, frmMenu &panel)
 
 int run(Program &program)
 {
-    auto *splash = new frmSplash(program);
+    const QPointer<frmSplash> splash = new frmSplash(program);
     splash->setStatus(QStringLiteral("Loading program ... "));
     splash->show();
     prepareDataFolder(program);
     splash->setStatus(QStringLiteral("Setting program wide defaults ... "));
-    loadOptions(program);
+    LoadProgramOptions(program);
     const QPointer<frmMenu> panel = new frmMenu(program);
     modForms::ScaleForm(*panel, PanelDesignSize);
     splash->setStatus(QStringLiteral("Loading program components... "));
-    auto *stack = new frmNoteStack(program);
+    const QPointer<frmNoteStack> stack = new frmNoteStack(program);
     stack->Initialize();
     EndSignals endSignals;
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));
     restoreNotes(program, splash);
+    if (program.Exiting)
+        return 0;
     modTimers::SetAutoSave(program, true);
     showPanel(program, *splash, *panel);
     if (frmNoteStack::wasShown(program))
         stack->show();
-    const int result = program.Exiting ? 0 : QApplication::exec();
+    const int result = QApplication::exec();
     delete panel;
     return result;
 }
@@ -137,7 +139,7 @@ void prepareDataFolder(Program &program)
     program.prompts().tell({text.arg(folder), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
 }
 
-void loadOptions(Program &program)
+void LoadProgramOptions(Program &program)
 {
     program.DefaultOptions = modFileIO::SetProgramDefaults(program.paths(), designLook());
     program.ProgramOptions = program.DefaultOptions;
@@ -153,12 +155,15 @@ void loadOptions(Program &program)
 void restoreNotes(Program &program, frmSplash *splash)
 {
     const auto create = [&program](clsNoteProps &&note) {
+        // The program was told to end meanwhile; what is not restored stays in the file as it is.
+        if (program.Exiting)
+            return qint32(0);
         const bool toNoteStack = note.NoteStackOn;
         return modCreateNote::CreateNote(program, std::move(note), toNoteStack, NoteCreateMode::Load);
     };
-    const auto tell = [splash](int k, int n) {
-        if (splash != nullptr)
-            splash->setStatus(QStringLiteral("Loading previously saved data ... (%1 of %2)").arg(k).arg(n));
+    const auto tell = [shown = QPointer<frmSplash>(splash)](int k, int n) {
+        if (shown != nullptr && !shown->isUnloaded())
+            shown->setStatus(QStringLiteral("Loading previously saved data ... (%1 of %2)").arg(k).arg(n));
     };
     const LoadReport report =
         modFileIO::LoadDataFile(program.file, program.NoteTemplate, modCreateNote::MostNotes - program.NoteCounter, create,

@@ -22,7 +22,7 @@ bool checkComponents(Program &program);
 /// The data folder, made where it is missing, its owner's alone.
 void prepareDataFolder(Program &program);
 /// The built-in defaults, the options file over them, and the check of the files they name.
-void loadOptions(Program &program);
+void LoadProgramOptions(Program &program);
 /// Restores the notes of the data file; the splash window, if there is one, tells how far it is.
 void restoreNotes(Program &program, frmSplash *splash);
 

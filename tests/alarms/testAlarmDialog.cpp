@@ -11,7 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 const QDateTime Noon(QDate(2026, 3, 1), QTime(12, 0));
 

@@ -8,7 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 constexpr int Day = 86400;
 
@@ -107,7 +108,8 @@ void testModAlarm::daylightSaving_data()
     };
     QTest::newRow("an hour less in spring") << utc("2026-03-28T23:30:00Z") << u"2026-03-29 05:00:00"_s << 9000 + 3600;
     QTest::newRow("left out") << utc("2026-03-29T00:50:00Z") << u"2026-03-29 02:30:00"_s << 2400;
-    QTest::newRow("an hour more in autumn") << utc("2026-10-24T22:30:00Z") << u"2026-10-25 05:00:00"_s << 5 * 3600 + 1800;
+    QTest::newRow("an hour more in autumn")
+        << utc("2026-10-24T22:30:00Z") << u"2026-10-25 05:00:00"_s << 5 * 3600 + 1800;
     QTest::newRow("first of two") << utc("2026-10-24T23:50:00Z") << u"2026-10-25 02:30:00"_s << 2400;
     QTest::newRow("second of two") << utc("2026-10-25T01:10:00Z") << u"2026-10-25 02:30:00"_s << 1200;
     QTest::newRow("past the change") << utc("2026-10-25T00:50:00Z") << u"2026-10-25 03:10:00"_s << 4800;
@@ -132,8 +134,9 @@ void testModAlarm::anyNumbers()
     for (int code = 0; code < 6 * 6 * 6 * 6 * 6 * 6; ++code) {
         clsNoteProps record;
         int rest = code;
-        for (auto field : {&clsNoteProps::AlarmDateYear, &clsNoteProps::AlarmDateMonth, &clsNoteProps::AlarmDateDay,
-                           &clsNoteProps::AlarmTimeHour, &clsNoteProps::AlarmTimeMinute, &clsNoteProps::AlarmTimeSecond}) {
+        for (auto field :
+             {&clsNoteProps::AlarmDateYear, &clsNoteProps::AlarmDateMonth, &clsNoteProps::AlarmDateDay,
+              &clsNoteProps::AlarmTimeHour, &clsNoteProps::AlarmTimeMinute, &clsNoteProps::AlarmTimeSecond}) {
             record.*field = static_cast<qint16>(Values[size_t(rest % 6)]);
             rest /= 6;
         }

@@ -15,7 +15,8 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-namespace {
+namespace
+{
 
 /// Half a second of silence, 8000 samples a second.
 QByteArray wave()
@@ -35,8 +36,8 @@ int deadServer(const QByteArray &path)
         return -1;
     std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
     const int server = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const bool listens = ::bind(server, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 &&
-                         ::listen(server, 4) == 0;
+    const bool listens =
+        ::bind(server, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 && ::listen(server, 4) == 0;
     return listens ? server : -1;
 }
 
@@ -57,6 +58,7 @@ private slots:
     void files_data();
     void files();
     void everyTruncation();
+    void threeBytesBecomeFour();
     void foldersAndHugeFiles();
     void libraryHasItsFunction();
     void deadSoundServerDelaysNothing();
@@ -91,6 +93,9 @@ void testSound::files_data()
     row("no bits", 34, "\0\0", 2, false);
     row("frames of no size", 32, "\0\0", 2, false);
     row("format too short", 16, "\x08", 1, false);
+    row("floats of two bytes", 20, "\3", 1, false);
+    row("longer than the file", 40, "\xff\xff\xff\xff", 4, true);
+    row("no samples", 40, "\0\0\0\0", 4, false);
     row("no format", 12, "LIST\xff\xff\xff\xff", 8, false);
 }
 
@@ -98,23 +103,34 @@ void testSound::files()
 {
     QFETCH(int, at);
     QFETCH(QByteArray, bytes);
-    QTEST(waveFile::isPlayable(write(wave().replace(at, bytes.size(), bytes))), "playable");
+    QTEST(waveFile::read(write(wave().replace(at, bytes.size(), bytes))).has_value(), "playable");
 }
 
+/// What is left of a cut file is played, in whole frames.
 void testSound::everyTruncation()
 {
-    constexpr int FormatEnd = 36;
-    for (int keep = 0; keep <= FormatEnd; ++keep)
-        QCOMPARE(waveFile::isPlayable(write(wave().first(keep))), keep == FormatEnd);
+    constexpr qsizetype Header = 44;
+    for (qsizetype keep = 0; keep <= Header + 9; ++keep) {
+        const auto samples = waveFile::read(write(wave().first(keep)));
+        QCOMPARE(samples ? samples->frames.size() : 0, qMax<qsizetype>(keep - Header, 0) / 2 * 2);
+    }
+}
+
+void testSound::threeBytesBecomeFour()
+{
+    QByteArray bytes = wave().first(44) + QByteArray("\1\2\x83\4\5\6\7", 7);
+    const auto samples = waveFile::read(write(bytes.replace(32, 4, QByteArray("\3\0\x18\0", 4))));
+    QVERIFY(samples && samples->kind == WaveSamples::Kind::Int32 && samples->rate == 8000);
+    QCOMPARE(samples->frames, QByteArray("\0\1\2\x83\0\4\5\6", 8));
 }
 
 void testSound::foldersAndHugeFiles()
 {
-    QVERIFY(!waveFile::isPlayable(m_folder.path()));
-    QVERIFY(!waveFile::isPlayable(m_folder.filePath(QStringLiteral("missing.wav"))));
+    QVERIFY(!waveFile::read(m_folder.path()));
+    QVERIFY(!waveFile::read(m_folder.filePath(QStringLiteral("missing.wav"))));
     QFile file(write(wave()));
     QVERIFY(file.resize(1'000'000'000));
-    QVERIFY(!waveFile::isPlayable(file.fileName()));
+    QVERIFY(!waveFile::read(file.fileName()));
 }
 
 void testSound::libraryHasItsFunction()

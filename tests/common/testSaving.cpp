@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 using Answer = Prompts::Answer;
 using SaveAll = bool (*)(Program &);
 
-Q_DECLARE_METATYPE(SaveAll)
 
 class testSaving final : public QObject
 {
@@ -217,6 +216,5 @@ void testSaving::everyHalfHour()
     QVERIFY(!timer.isActive());
 }
 
-Q_DECLARE_METATYPE(std::function<void(QWidget &)>)
 QTEST_MAIN(testSaving)
 #include "testSaving.moc"

@@ -32,26 +32,26 @@ void testNoteLayout::keepsThingsApart()
     QFETCH(bool, locked);
     for (int width = NoteLayout::smallestSize().width(); width < 420; ++width)
         for (int height = NoteLayout::rolledHeight(); height < 240; height += 3) {
-            const QByteArray where = QByteArray::number(width) + 'x' + QByteArray::number(height);
+            const std::string where = std::to_string(width) + "x" + std::to_string(height);
             const QRect window(0, 0, width, height);
             const auto note = NoteLayout::of(window.size(), {toolBarOn, locked, 5});
             for (const QRect &part : {note.titleBar, note.buttons, note.body, note.password})
-                QVERIFY2(part.isEmpty() || window.contains(part), where);
+                QVERIFY2(part.isEmpty() || window.contains(part), where.c_str());
             for (const QRect &lower : {note.buttons, note.body, note.password})
-                QVERIFY2(!lower.intersects(note.titleBar), where);
-            QVERIFY2(!note.body.intersects(note.buttons), where);
-            QVERIFY2(!locked || note.buttons.isEmpty(), where);
+                QVERIFY2(!lower.intersects(note.titleBar), where.c_str());
+            QVERIFY2(!note.body.intersects(note.buttons), where.c_str());
+            QVERIFY2(!locked || note.buttons.isEmpty(), where.c_str());
             const QRect title(QPoint(0, 0), note.titleBar.size());
             QRegion taken = note.title;
             for (const QRect &picture : {note.menu, note.exit, note.minimize}) {
-                QVERIFY2(title.contains(picture), where);
-                QVERIFY2(!taken.intersects(picture), where);
+                QVERIFY2(title.contains(picture), where.c_str());
+                QVERIFY2(!taken.intersects(picture), where.c_str());
                 taken += picture;
             }
             const QRect strip(QPoint(0, 0), note.buttons.size());
             for (size_t i = 0; i < note.images.size() && !note.buttons.isEmpty(); ++i) {
-                QVERIFY2(!note.imageFits[i] || strip.contains(note.images[i]), where);
-                QVERIFY2(!note.imageFits[i] || !note.images[i].intersects(note.edit), where);
+                QVERIFY2(!note.imageFits[i] || strip.contains(note.images[i]), where.c_str());
+                QVERIFY2(!note.imageFits[i] || !note.images[i].intersects(note.edit), where.c_str());
             }
         }
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-const Twips Display(96);
+const Twips Dpi96(96);
 constexpr QSize Fallback(200, 150);
 constexpr QPoint CascadeFrom(48, 48);
 const QRect Main(0, 0, 1000, 800);
@@ -35,10 +35,10 @@ struct Case
 clsNoteProps noteAt(float left, float top, float width, float height)
 {
     clsNoteProps note;
-    note.FrmLeft = left * Display.perPixel();
-    note.FrmTop = top * Display.perPixel();
-    note.FrmWidth = width * Display.perPixel();
-    note.FrmHeight = height * Display.perPixel();
+    note.FrmLeft = left * Dpi96.perPixel();
+    note.FrmTop = top * Dpi96.perPixel();
+    note.FrmWidth = width * Dpi96.perPixel();
+    note.FrmHeight = height * Dpi96.perPixel();
     return note;
 }
 
@@ -88,7 +88,7 @@ void testNotePlacement::opens_data()
 void testNotePlacement::opens()
 {
     QFETCH(const Case *, row);
-    const auto place = NotePlacement::of(noteAt(row->left, row->top, row->width, row->height), Display, row->screens,
+    const auto place = NotePlacement::of(noteAt(row->left, row->top, row->width, row->height), Dpi96, row->screens,
                                          Fallback, CascadeFrom, 0);
     QCOMPARE(place.geometry, row->opened);
     QCOMPARE(place.stored, row->stored);
@@ -99,14 +99,14 @@ void testNotePlacement::cascades()
     const clsNoteProps nowhere = noteAt(0, 0, 200, 150);
     std::vector<QPoint> opened;
     for (int step = 0; step < 100; ++step) {
-        opened.push_back(NotePlacement::of(nowhere, Display, One, Fallback, CascadeFrom, step).geometry.topLeft());
+        opened.push_back(NotePlacement::of(nowhere, Dpi96, One, Fallback, CascadeFrom, step).geometry.topLeft());
         QVERIFY(Main.contains(QRect(opened.back(), Fallback)));
         QVERIFY(step == 0 || opened[static_cast<size_t>(step)] != opened[static_cast<size_t>(step) - 1]);
     }
     clsNoteProps rolled = nowhere;
     rolled.FrmScrolledOn = true;
     rolled.FrmHeight = 1;
-    QCOMPARE(NotePlacement::of(rolled, Display, One, Fallback, CascadeFrom, 0).geometry.height(), NoteLayout::rolledHeight());
+    QCOMPARE(NotePlacement::of(rolled, Dpi96, One, Fallback, CascadeFrom, 0).geometry.height(), NoteLayout::rolledHeight());
 }
 
 void testNotePlacement::isReachableWhateverIsStored_data()
@@ -133,7 +133,7 @@ void testNotePlacement::isReachableWhateverIsStored()
                     note.FrmTop = top;
                     note.FrmWidth = width;
                     note.FrmHeight = height;
-                    const QRect at = NotePlacement::of(note, Display, screens, Fallback, CascadeFrom, 7).geometry;
+                    const QRect at = NotePlacement::of(note, Dpi96, screens, Fallback, CascadeFrom, 7).geometry;
                     QVERIFY(at.width() >= NoteLayout::smallestSize().width() && at.height() >= NoteLayout::smallestSize().height());
                     const QRect title(at.topLeft(), QSize(at.width(), NoteLayout::rolledHeight()));
                     const bool seen = std::any_of(screens.begin(), screens.end(), [&](const QRect &screen) {

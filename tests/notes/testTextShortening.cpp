@@ -24,7 +24,7 @@ void testTextShortening::longestThatFits_data()
     QTest::newRow("emoji") << u"🎂🎂🎂🎂 for 🐕 & 🐈‍⬛"_s;
     QTest::newRow("Japanese") << u"今日は天気がいいですね"_s;
     QTest::newRow("empty") << u""_s;
-    QTest::newRow("lone halves") << QString(QChar(0xD83C)) + u"abc" + QChar(0xDF82) + u"def";
+    QTest::newRow("lone halves") << QString(QChar(0xD83C)) + u"abc"_s + QChar(0xDF82) + u"def"_s;
     QTest::newRow("200 000 characters") << u"words and words "_s.repeated(12500);
     QTest::newRow("200 000 without a blank") << QString(200000, u'W');
     QTest::newRow("200 000 that take no room") << QString(200000, QChar(0x200B)) + u'W';
@@ -48,7 +48,7 @@ void testTextShortening::longestThatFits()
         const bool splits = !kept.isEmpty() && kept.back().isHighSurrogate() && text.at(kept.size()).isLowSurrogate();
         QVERIFY2(!splits, qPrintable(QString::number(width)));
         const qsizetype more = kept.size() + (text.at(kept.size()).isHighSurrogate() ? 2 : 1);
-        QVERIFY(more > text.size() || metrics.horizontalAdvance(text.left(more) + u"...") > width);
+        QVERIFY(more > text.size() || metrics.horizontalAdvance(text.left(more) + u"..."_s) > width);
     }
 }
 

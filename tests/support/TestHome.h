@@ -21,7 +21,10 @@ public:
     QByteArray dataFile() const { return contents(paths.DataFile); }
     void setDataFile(const QByteArray &bytes) const { setContents(paths.DataFile, bytes); }
     /// One of the files of tests/data.
-    static QByteArray sample(const char *name) { return contents(QStringLiteral(TEST_DATA "/") + QLatin1StringView(name)); }
+    static QByteArray sample(const char *name)
+    {
+        return contents(QStringLiteral(TEST_DATA "/") + QLatin1StringView(name));
+    }
     /// A folder where a file is to be written makes every write fail.
     void spoilDataFile() const
     {

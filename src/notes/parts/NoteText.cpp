@@ -44,6 +44,7 @@ void NoteText::setCaption(const QString &caption)
 {
     setText(caption);
     m_shown = modForms::shownCaption(caption);
+    setAccessibleName(m_shown);
     m_scroll = 0;
     forget();
 }

@@ -146,6 +146,13 @@ void NoteTitle::endEditing()
     emit edited(text);
 }
 
+void NoteTitle::commitQuietly()
+{
+    if (m_editing && m_editor->text().trimmed().isEmpty())
+        giveUp();
+    endEditing();
+}
+
 void NoteTitle::giveUp()
 {
     if (m_editing)

@@ -53,6 +53,8 @@ public:
     bool isEditing() const { return m_editing; }
     /// Ends the edit as if the editor had been left.
     void endEditing();
+    /// Ends the edit without a question: a text of blanks is not taken.
+    void commitQuietly();
     /// Ends the edit without taking what was typed.
     void giveUp();
 

@@ -53,6 +53,8 @@ public:
     // Hooks of both.
     /// The record of the note with this tag when it lives in this form.
     virtual clsNoteProps *recordOf(qint32) { return nullptr; }
+    /// Locks that note; for one that was locked where it comes from.
+    virtual void lockNote(qint32) {}
     /// Somebody has changed that record: show it, and arm its alarm, anew.
     virtual void recordChanged(qint32) {}
     /// Said while the window is still as the user left it, before it is closed for good.

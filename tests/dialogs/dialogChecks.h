@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLabel>
+#include <QSet>
+#include <QTabWidget>
+#include <QTest>
+
+/// Looks at every page of a dialog for what nobody could read or reach.
+inline void checkPages(const QDialog &dialog)
+{
+    auto *tabs = dialog.findChild<QTabWidget *>(QStringLiteral("TabOptions"));
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        QSet<QChar> letters;
+        for (QWidget *widget : dialog.findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<QLabel *>(widget);
+            const auto *button = qobject_cast<QAbstractButton *>(widget);
+            if (!widget->isVisible() || (label == nullptr && button == nullptr))
+                continue;
+            const QString text = label != nullptr ? label->text() : button->text();
+            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(text));
+            const qsizetype mark = text.indexOf(QLatin1Char('&'));
+            const QChar letter = mark < 0 ? QChar() : text.at(mark + 1).toLower();
+            QVERIFY2(mark < 0 || !letters.contains(letter), qPrintable(text));
+            letters.insert(letter);
+            QVERIFY2(button == nullptr || !(button->text() + button->accessibleName()).isEmpty(),
+                     qPrintable(widget->objectName()));
+        }
+    }
+    tabs->setCurrentIndex(0);
+}

@@ -1,0 +1,271 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "dialogChecks.h"
+#include "dialogs/frmOptions.h"
+#include "model/optionsFile.h"
+#include "support/TestProgram.h"
+#include "support/answerDialog.h"
+#include "support/failOnWarnings.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QDateTime Now(QDate(2026, 3, 1), QTime(12, 0));
+
+void type(const QWidget &dialog, const char *name, const QString &text)
+{
+    auto &box = control<QLineEdit>(dialog, name);
+    box.setFocus();
+    box.selectAll();
+    if (text.isEmpty())
+        QTest::keyClick(&box, Qt::Key_Delete);
+    for (const QChar c : text) // One by one: every beginning of the text is a change.
+        box.insert(c);
+}
+
+} // namespace
+
+class testOptionsDialog final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void everythingCanBeReadAndReached();
+    void acceptedOptionsAreKept();
+    void cancelAndDefaults();
+    void numbers_data();
+    void numbers();
+    void checks_data();
+    void checks();
+    void files_data();
+    void files();
+    void coloursAndFont();
+    void failedSaveIsTold();
+    void tabsGoRound();
+
+private:
+    Program &program() { return m_test->program; }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestProgram> m_test;
+    std::unique_ptr<frmOptions> m_dialog;
+};
+
+void testOptionsDialog::init()
+{
+    failOnWarnings();
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir(m_folder->path()).mkdir(u"Data"_s));
+    m_test = std::make_unique<TestProgram>(Now, ProgramPaths::under(m_folder->path(), m_folder->path()));
+    program().DefaultOptions = modFileIO::SetProgramDefaults(program().paths(), {0xFFFF, 0, u"Sans"_s, 9});
+    program().ProgramOptions = program().DefaultOptions;
+    m_dialog = std::make_unique<frmOptions>(program(), nullptr);
+    m_dialog->Initialize(program().ProgramOptions);
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+}
+
+void testOptionsDialog::cleanup()
+{
+    m_dialog.reset();
+    QVERIFY(m_test->prompts.isDone());
+}
+
+void testOptionsDialog::everythingCanBeReadAndReached()
+{
+    checkPages(*m_dialog);
+}
+
+void testOptionsDialog::acceptedOptionsAreKept()
+{
+    const QString name = u"\"Zo\u00EB\"; a=b \U0001F4DD"_s;
+    for (const char *box : {"txtName", "txtNameTitle", "txtOrg", "txtEmailAddress", "txtSmtpServer"})
+        type(*m_dialog, box, name);
+    type(*m_dialog, "txtSizeHeight", u"2.5"_s);
+    type(*m_dialog, "txtListeningPort", u"65535"_s);
+    for (const char *box : {"chkOnTop", "chkToolbar", "chkTitle", "chkPwd1", "chkPwd2", "chkFlash"})
+        control<QCheckBox>(*m_dialog, box).click();
+    press(*m_dialog, "cmdOK");
+    QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
+    clsprogramoptions expected = program().DefaultOptions;
+    expected.NameName = expected.NameTitle = expected.Org = expected.EmailAddress = expected.SMTPServer = name;
+    expected.FrmHeight = 3600;
+    expected.ListeningPort = 65535;
+    expected.OnTopOn = expected.TitleBarOn = expected.PwdOpenCloseOn = expected.PwdReadonlyOn = true;
+    expected.ToolBarOn = expected.FlashOn = false;
+    QVERIFY(program().ProgramOptions == expected);
+    QVERIFY(program().NoteTemplate.FrmHeight == 3600 && program().NoteTemplate.PwdReadonlyOn);
+    clsprogramoptions readBack;
+    QVERIFY(modFileIO::LoadOptionsFile(program().paths(), readBack) && readBack == expected);
+}
+
+void testOptionsDialog::cancelAndDefaults()
+{
+    program().ProgramOptions.NameName = u"Jane"_s;
+    m_dialog->Initialize(program().ProgramOptions);
+    const clsprogramoptions before = program().ProgramOptions;
+    press(*m_dialog, "cmdDefaults");
+    QVERIFY(control<QLineEdit>(*m_dialog, "txtName").text().isEmpty());
+    press(*m_dialog, "cmdCancel");
+    QVERIFY(!m_dialog->OptionsResult(program().ProgramOptions) && program().ProgramOptions == before);
+    QVERIFY(!QFile::exists(program().paths().OptionsFile));
+    m_dialog->show();
+    press(*m_dialog, "cmdOK");
+    QVERIFY(m_dialog->OptionsResult(program().ProgramOptions) && program().ProgramOptions == program().DefaultOptions);
+}
+
+void testOptionsDialog::numbers_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    const QByteArray width("txtSizeWidth");
+    const QByteArray port("txtListeningPort");
+    for (const QString &text : {u"1e400"_s, u"-1"_s, u"abc"_s, u"\u0661"_s, u"2abc"_s, u"nan"_s, u"1e38"_s, u"1 2"_s, u""_s})
+        QTest::addRow("width %s", qPrintable(text)) << width << text << u"1.5"_s;
+    QTest::newRow("width") << width << u" 0.49 "_s << u"0.49"_s;
+    for (const QString &text : {u"70000"_s, u"-5"_s, u"14 20"_s, u"1.5"_s, u"80x"_s, u"99999999999"_s})
+        QTest::addRow("port %s", qPrintable(text)) << port << text << u"1420"_s;
+    QTest::newRow("no port") << port << u""_s << u"0"_s;
+    QTest::newRow("port") << port << u"0080"_s << u"80"_s;
+}
+
+void testOptionsDialog::numbers()
+{
+    QFETCH(QByteArray, box);
+    QFETCH(QString, text);
+    QFETCH(QString, shown);
+    control<QTabWidget>(*m_dialog, "TabOptions").setCurrentIndex(box == "txtSizeWidth" ? 0 : 3);
+    type(*m_dialog, box.constData(), text);
+    control<QWidget>(*m_dialog, "cmdCancel").setFocus();
+    QCOMPARE(control<QLineEdit>(*m_dialog, box.constData()).text(), shown);
+}
+
+void testOptionsDialog::checks_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QByteArray>("focus");
+    QTest::newRow("picture") << QByteArray("chkBackPic") << QString() << u"Background Picture Error"_s << 1 << QByteArray("cmdPicFile");
+    QTest::newRow("sound") << QByteArray("chkSoundFile") << QString() << u"Alarm Sound Error"_s << 2 << QByteArray("cmdSoundFile");
+    for (const QString &wrong : {u"0.49"_s, u"5.01"_s, u"0"_s})
+        QTest::addRow("height %s", qPrintable(wrong)) << QByteArray("txtSizeHeight") << wrong << u"Quillet Dimensions Error"_s << 0
+                                                      << QByteArray("txtSizeHeight");
+    for (const QString &right : {u"0.5"_s, u"5"_s})
+        QTest::addRow("height %s", qPrintable(right)) << QByteArray("txtSizeHeight") << right << QString() << 0 << QByteArray();
+}
+
+void testOptionsDialog::checks()
+{
+    QFETCH(QByteArray, box);
+    QFETCH(QString, value);
+    QFETCH(QString, caption);
+    if (value.isEmpty())
+        control<QCheckBox>(*m_dialog, box.constData()).click();
+    else
+        type(*m_dialog, box.constData(), value);
+    if (!caption.isEmpty())
+        m_test->prompts.expect(Prompts::Answer::Ok);
+    control<QTabWidget>(*m_dialog, "TabOptions").setCurrentIndex(3);
+    press(*m_dialog, "cmdOK");
+    QCOMPARE(m_dialog->isVisible(), !caption.isEmpty());
+    if (caption.isEmpty())
+        return;
+    QCOMPARE(m_test->prompts.last.caption, caption);
+    QCOMPARE(m_test->prompts.last.icon, Message::Icon::Critical);
+    QTEST(control<QTabWidget>(*m_dialog, "TabOptions").currentIndex(), "page");
+    QFETCH(QByteArray, focus);
+    QVERIFY(control<QWidget>(*m_dialog, focus.constData()).hasFocus());
+}
+
+void testOptionsDialog::files_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("refusal");
+    QTest::newRow("picture") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.ico"_s << QString();
+    QTest::newRow("upper case") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.JPG"_s << u"Invalid image file."_s;
+    QTest::newRow("sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a & b.wav"_s << QString();
+    QTest::newRow("no sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a.mp3"_s << u"Invalid sound file."_s;
+    QTest::newRow("send book") << QByteArray("cmdSendBook") << u"Open Send Book"_s << u"/h"_s << QString();
+    QTest::newRow("address book") << QByteArray("cmdAddressBook") << u"Open Address Book"_s << u"/h.txt"_s << QString();
+    QTest::newRow("cancelled") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << QString() << QString();
+    QTest::newRow("long") << QByteArray("cmdAddressBook") << u"Open Address Book"_s << u"/x"_s.repeated(5000) + u"/end.txt"_s << QString();
+}
+
+void testOptionsDialog::files()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(QString, file);
+    QFETCH(QString, refusal);
+    auto &chooser = control<QPushButton>(*m_dialog, button.constData());
+    const QString before = chooser.text();
+    m_test->choosers.files.push_back(file.isEmpty() ? std::nullopt : std::optional(file));
+    if (!refusal.isEmpty())
+        m_test->prompts.expect(Prompts::Answer::Ok);
+    chooser.click();
+    QTEST(m_test->choosers.lastRequest.title, "title");
+    if (!refusal.isEmpty())
+        QVERIFY((m_test->prompts.last == Message{refusal, u"Error"_s, Message::Icon::Critical}));
+    if (!refusal.isEmpty() || file.isEmpty())
+        QCOMPARE(chooser.text(), before);
+    else if (file.size() < 20)
+        QCOMPARE(chooser.text().replace(u"&&"_s, u"&"_s), file);
+    else
+        QVERIFY(chooser.text().startsWith(u"...") && chooser.text().endsWith(u"/end.txt"));
+}
+
+void testOptionsDialog::coloursAndFont()
+{
+    const QFont font(u"No such font"_s, 17, QFont::Bold, true);
+    m_test->choosers.colours = {QColor(1, 2, 3), std::nullopt};
+    m_test->choosers.fonts = {font, std::nullopt};
+    for (const char *name : {"cmdForeColor", "cmdBackColor", "cmdFont", "cmdFont"})
+        control<QPushButton>(*m_dialog, name).click();
+    QCOMPARE(control<QLabel>(*m_dialog, "lblFontStyle").text(), u"Bold Italic"_s);
+    press(*m_dialog, "cmdOK");
+    clsprogramoptions &options = program().ProgramOptions;
+    QVERIFY(m_dialog->OptionsResult(options));
+    QVERIFY(options.ForeColor == 0x030201 && options.BackColor == 0xFFFF);
+    QVERIFY(options.FontName == font.family() && options.FontSize == 17 && options.FontBoldOn && options.FontItalicOn);
+}
+
+void testOptionsDialog::failedSaveIsTold()
+{
+    QVERIFY(QDir(m_folder->filePath(u"Data"_s)).removeRecursively());
+    press(*m_dialog, "cmdOK");
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
+    QVERIFY(m_test->prompts.last.text.startsWith(u"The options could not be saved.\n"));
+}
+
+void testOptionsDialog::tabsGoRound()
+{
+    auto &tabs = control<QTabWidget>(*m_dialog, "TabOptions");
+    QVERIFY(control<QWidget>(*m_dialog, "txtName").hasFocus());
+    for (const char *first : {"cmdFont", "chkSoundFile", "txtEmailAddress", "txtName"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        QVERIFY2(control<QWidget>(*m_dialog, first).hasFocus(), first);
+    }
+    control<QWidget>(*m_dialog, "cmdOK").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(tabs.currentIndex(), 3);
+    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(2).center());
+    QTRY_VERIFY(control<QWidget>(*m_dialog, "chkSoundFile").hasFocus());
+}
+
+QTEST_MAIN(testOptionsDialog)
+#include "testOptionsDialog.moc"

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "dialogs/PictureThumbnail.h"
+#include "notes/parts/PictureFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray bytesOf(const QImage &picture, const char *format)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x"_s);
+    picture.save(path, format);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray bitmap(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    return bytesOf(picture, "BMP");
+}
+
+/// A head that claims far more than the file holds.
+QByteArray bomb()
+{
+    QByteArray bytes = bitmap(4, 4);
+    bytes.replace(18, 8, QByteArray("\x30\x75\0\0\x30\x75\0\0", 8)); // 30000 x 30000
+    return bytes;
+}
+
+} // namespace
+
+class testPictureFile final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void reads_data();
+    void reads();
+    void neverMoreThanCovers();
+    void foldersAndMissingFiles();
+    void thumbnailShowsTheLastOnly();
+};
+
+void testPictureFile::reads_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("shown");
+    const QByteArray svg("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+    QTest::newRow("bitmap") << bitmap(300, 200) << true;
+    QTest::newRow("one pixel") << bitmap(1, 1) << true;
+    QTest::newRow("bomb") << bomb() << false;
+    QTest::newRow("no head") << bitmap(300, 200).first(20) << false;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("text") << QByteArray("Not a picture at all.") << false;
+    QTest::newRow("a kind that is not allowed") << svg << false;
+    QTest::newRow("another") << bytesOf(QImage(9, 9, QImage::Format_RGB32), "PNG") << false;
+}
+
+void testPictureFile::reads()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, shown);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.bmp"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    QCOMPARE(!pictureFile::read(file.fileName(), {100, 100}).isNull(), shown);
+}
+
+void testPictureFile::neverMoreThanCovers()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.jpg"_s);
+    QVERIFY(QImage(800, 400, QImage::Format_RGB32).save(path, "JPG"));
+    QCOMPARE(pictureFile::read(path, {100, 100}).size(), QSize(200, 100));
+    QCOMPARE(pictureFile::read(path, {2000, 2000}).size(), QSize(800, 400));
+}
+
+void testPictureFile::foldersAndMissingFiles()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"a.bmp"_s));
+    QVERIFY(pictureFile::read(folder.filePath(u"a.bmp"_s), {9, 9}).isNull());
+    QVERIFY(pictureFile::read(folder.filePath(u"b.bmp"_s), {9, 9}).isNull());
+}
+
+void testPictureFile::thumbnailShowsTheLastOnly()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.bmp"_s);
+    QVERIFY(QImage(640, 480, QImage::Format_RGB32).save(path));
+    PictureThumbnail thumbnail(nullptr);
+    thumbnail.setPath(path);
+    thumbnail.setPath(u"/none.bmp"_s);
+    QTRY_VERIFY(thumbnail.text().contains(u"cannot be shown"));
+    thumbnail.setPath(path);
+    QTRY_VERIFY(!thumbnail.pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(thumbnail.pixmap(Qt::ReturnByValue).width() <= thumbnail.width());
+    thumbnail.setPath({});
+    QCOMPARE(thumbnail.text(), u"No picture"_s);
+}
+
+QTEST_MAIN(testPictureFile)
+#include "testPictureFile.moc"

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "dialogChecks.h"
+#include "dialogs/frmSettings.h"
+#include "support/TestProgram.h"
+#include "support/answerDialog.h"
+#include "support/failOnWarnings.h"
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QTimeEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QDateTime Now(QDate(2026, 3, 1), QTime(12, 0));
+
+clsNoteProps noteWithAll()
+{
+    clsNoteProps note;
+    note.Data = u"text"_s;
+    note.BackColor = 0x99FFFF;
+    note.FontName = u"Sans"_s;
+    note.FontSize = 12;
+    note.PwdOn = true;
+    note.Pwd = u"old"_s;
+    note.AlarmOn = true;
+    note.AlarmDateYear = 2026;
+    note.AlarmDateMonth = 3;
+    note.AlarmDateDay = 2;
+    note.SoundFile = u"/a.wav"_s;
+    return note;
+}
+
+} // namespace
+
+class testSettingsDialog final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void everythingCanBeReadAndReached();
+    void acceptedUnchanged();
+    void cancelled();
+    void checks_data();
+    void checks();
+    void alarmWithoutADate();
+    void pickersAreStored();
+    void innerFramesFollowTheirBoxes();
+    void passwordStaysWhenPromptIsCancelled();
+    void hostileRecords_data();
+    void hostileRecords();
+
+private:
+    Program &program() { return m_test->program; }
+    void open(const clsNoteProps &note);
+
+    std::unique_ptr<TestProgram> m_test;
+    std::unique_ptr<frmSettings> m_dialog;
+};
+
+void testSettingsDialog::init()
+{
+    failOnWarnings();
+    m_test = std::make_unique<TestProgram>(Now);
+    m_dialog = std::make_unique<frmSettings>(program(), nullptr);
+}
+
+void testSettingsDialog::cleanup()
+{
+    m_dialog.reset();
+    QVERIFY(m_test->prompts.isDone());
+}
+
+void testSettingsDialog::open(const clsNoteProps &note)
+{
+    m_dialog->Initialize(note);
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+}
+
+void testSettingsDialog::everythingCanBeReadAndReached()
+{
+    open(noteWithAll());
+    checkPages(*m_dialog);
+}
+
+void testSettingsDialog::acceptedUnchanged()
+{
+    clsNoteProps note = noteWithAll();
+    open(note);
+    press(*m_dialog, "cmdOK");
+    QVERIFY(m_dialog->SettingsResult(note));
+    clsNoteProps expected = noteWithAll();
+    expected.SaveTag = 1;
+    QVERIFY(note == expected);
+}
+
+void testSettingsDialog::cancelled()
+{
+    clsNoteProps note = noteWithAll();
+    open(note);
+    m_test->choosers.colours = {QColor(Qt::red)};
+    press(*m_dialog, "cmdForeColor");
+    QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    QVERIFY(!m_dialog->isVisible() && !m_dialog->SettingsResult(note) && note == noteWithAll());
+}
+
+void testSettingsDialog::checks_data()
+{
+    QTest::addColumn<clsNoteProps>("note");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QByteArray>("focus");
+    clsNoteProps note = noteWithAll();
+    note.AlarmDateDay = 1;
+    note.AlarmTimeHour = 11;
+    note.AlarmTimeMinute = 59;
+    QTest::newRow("a minute ago") << note << u"Alarm set failure"_s << QByteArray("dtpAlarmDate");
+    note.AlarmOn = false;
+    QTest::newRow("a minute ago, off") << note << QString() << QByteArray();
+    note.AlarmOn = true;
+    note.SoundFileOn = true;
+    note.SoundFile.clear();
+    QTest::newRow("sound first") << note << u"Alarm Sound Error"_s << QByteArray("cmdSoundFile");
+    note.BackPicOn = true;
+    QTest::newRow("picture first of all") << note << u"Background Picture Error"_s << QByteArray("cmdPicFile");
+}
+
+void testSettingsDialog::checks()
+{
+    QFETCH(clsNoteProps, note);
+    QFETCH(QString, caption);
+    QFETCH(QByteArray, focus);
+    open(note);
+    if (!caption.isEmpty())
+        m_test->prompts.expect(Prompts::Answer::Ok);
+    press(*m_dialog, "cmdOK");
+    QCOMPARE(m_dialog->isVisible(), !caption.isEmpty());
+    if (caption.isEmpty())
+        return;
+    QCOMPARE(m_test->prompts.last.caption, caption);
+    QVERIFY(control<QWidget>(*m_dialog, focus.constData()).hasFocus());
+}
+
+void testSettingsDialog::alarmWithoutADate()
+{
+    clsNoteProps note;
+    open(note);
+    QCOMPARE(control<QDateEdit>(*m_dialog, "dtpAlarmDate").date(), Now.date());
+    control<QCheckBox>(*m_dialog, "chkAlarm").click();
+    control<QTimeEdit>(*m_dialog, "dtpAlarmTime").setTime(QTime(12, 0, 1));
+    press(*m_dialog, "cmdOK");
+    QVERIFY(m_dialog->SettingsResult(note));
+    QVERIFY(note.AlarmOn && note.AlarmDateYear == 2026 && note.AlarmDateMonth == 3 && note.AlarmDateDay == 1);
+    QVERIFY(note.AlarmTimeHour == 12 && note.AlarmTimeSecond == 1);
+}
+
+void testSettingsDialog::pickersAreStored()
+{
+    clsNoteProps note = noteWithAll();
+    open(note);
+    control<QDateEdit>(*m_dialog, "dtpAlarmDate").setDate(QDate(2030, 12, 31));
+    control<QTimeEdit>(*m_dialog, "dtpAlarmTime").setTime(QTime(23, 58, 59));
+    press(*m_dialog, "cmdOK");
+    QVERIFY(m_dialog->SettingsResult(note));
+    QVERIFY(note.AlarmDateYear == 2030 && note.AlarmDateMonth == 12 && note.AlarmDateDay == 31);
+    QVERIFY(note.AlarmTimeHour == 23 && note.AlarmTimeMinute == 58 && note.AlarmTimeSecond == 59);
+}
+
+void testSettingsDialog::innerFramesFollowTheirBoxes()
+{
+    open({});
+    QCOMPARE(control<QCheckBox>(*m_dialog, "chkPwd1").checkState(), Qt::Unchecked);
+    QVERIFY(!control<QWidget>(*m_dialog, "fraPasswordIn").isEnabled());
+    QVERIFY(!control<QWidget>(*m_dialog, "cmdSoundFile").isEnabled());
+    control<QCheckBox>(*m_dialog, "chkAlarm").click();
+    QVERIFY(control<QWidget>(*m_dialog, "cmdSoundFile").isEnabled());
+}
+
+void testSettingsDialog::passwordStaysWhenPromptIsCancelled()
+{
+    open(noteWithAll());
+    answerDialog(u"frmEnterPwd"_s, [](QDialog &prompt) { press(prompt, "CancelButton"); });
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    control<QCheckBox>(*m_dialog, "chkPwd").click();
+    QCOMPARE(m_test->prompts.last.caption, u"Disabling failed"_s);
+    QVERIFY(control<QCheckBox>(*m_dialog, "chkPwd").isChecked());
+}
+
+void testSettingsDialog::hostileRecords_data()
+{
+    QTest::addColumn<float>("fontSize");
+    QTest::addColumn<int>("year");
+    QTest::newRow("zero") << 0.0F << 0;
+    QTest::newRow("not a number") << std::numeric_limits<float>::quiet_NaN() << -1;
+    QTest::newRow("huge") << std::numeric_limits<float>::max() << 32767;
+    QTest::newRow("endless") << -std::numeric_limits<float>::infinity() << -32768;
+}
+
+void testSettingsDialog::hostileRecords()
+{
+    QFETCH(float, fontSize);
+    QFETCH(int, year);
+    clsNoteProps note = noteWithAll();
+    note.FontSize = fontSize;
+    note.FontName = QString(100'000, u'W');
+    note.PicFile = QString(100'000, u'/');
+    note.AlarmDateYear = static_cast<qint16>(year);
+    note.AlarmDateMonth = -7;
+    note.AlarmTimeHour = 99;
+    open(note);
+    checkPages(*m_dialog);
+    QVERIFY(m_dialog->width() < 800 && control<QLabel>(*m_dialog, "lblFontName").text().endsWith(u"..."));
+}
+
+QTEST_MAIN(testSettingsDialog)
+#include "testSettingsDialog.moc"

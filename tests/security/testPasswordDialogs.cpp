@@ -1,0 +1,328 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "security/frmChangePwd.h"
+#include "security/frmEnterPwd.h"
+#include "security/frmNewPwd.h"
+#include "security/frmPwdSettings.h"
+#include "security/secrets.h"
+#include "support/TestProgram.h"
+#include "support/answerDialog.h"
+#include "support/failOnWarnings.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QDateTime Now(QDate(2026, 3, 1), QTime(12, 0));
+
+void enter(const QWidget &dialog, const char *name, const QString &text)
+{
+    control<QLineEdit>(dialog, name).setText(text);
+}
+
+/// Gives a new password, or cancels where it is empty.
+void answerNewPassword(const QString &password)
+{
+    answerDialog(u"frmNewPwd"_s, [password](QDialog &dialog) {
+        enter(dialog, "txtPwd1", password);
+        enter(dialog, "txtPwd2", password);
+        press(dialog, password.isEmpty() ? "CancelButton" : "OKButton");
+    });
+}
+
+void answerPassword(const QString &password, const char *button)
+{
+    answerDialog(u"frmEnterPwd"_s, [password, button](QDialog &dialog) {
+        QCOMPARE(control<QLabel>(dialog, "lblDesc").text(), u"Disabling password protection."_s);
+        enter(dialog, "txtPwd", password);
+        press(dialog, button);
+    });
+}
+
+clsNoteProps protectedNote()
+{
+    clsNoteProps note;
+    note.PwdOn = true;
+    note.Pwd = u"old"_s;
+    note.PwdReadonlyOn = true;
+    return note;
+}
+
+} // namespace
+
+class testPasswordDialogs final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { QVERIFY(m_test->prompts.isDone()); }
+
+    void newPassword_data();
+    void newPassword();
+    void keysCloseTheDialog();
+    void currentPasswordIsVerified();
+    void cancelIsNeverRight();
+    void everyBoxIsMasked();
+    void wipingKeepsWhatOthersHold();
+    void switchingOn();
+    void switchingOnInVain();
+    void switchingOff_data();
+    void switchingOff();
+    void switchedOnAndOffAgainAsksNothing();
+    void changing();
+    void cancelDropsAll();
+    void captionsToggleTheirBoxes();
+
+private:
+    Program &program() { return m_test->program; }
+    std::unique_ptr<TestProgram> m_test;
+};
+
+void testPasswordDialogs::init()
+{
+    failOnWarnings();
+    m_test = std::make_unique<TestProgram>(Now);
+}
+
+void testPasswordDialogs::newPassword_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("message");
+    const QString differ = u"Sorry.  These passwords do not match.  Please try again."_s;
+    QTest::newRow("equal") << u"a b"_s << u"a b"_s << QString();
+    QTest::newRow("letter case") << u"abc"_s << u"abC"_s << differ;
+    QTest::newRow("composed and not") << u"\u00E9"_s << u"e\u0301"_s << differ;
+    QTest::newRow("second empty") << u"abc"_s << QString() << differ;
+    QTest::newRow("empty") << QString() << QString() << u"Sorry.  You must enter a non-zero length password."_s;
+}
+
+void testPasswordDialogs::newPassword()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    QFETCH(QString, message);
+    frmNewPwd dialog(program(), nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    enter(dialog, "txtPwd1", first);
+    enter(dialog, "txtPwd2", second);
+    if (!message.isEmpty())
+        m_test->prompts.expect(Prompts::Answer::Ok);
+    press(dialog, "OKButton");
+    QCOMPARE(dialog.isVisible(), !message.isEmpty());
+    QCOMPARE(dialog.requestPassword(), message.isEmpty() ? first : QString());
+    if (message.isEmpty())
+        return;
+    QVERIFY(m_test->prompts.last == Message{.text = message});
+    QVERIFY(control<QLineEdit>(dialog, "txtPwd1").text().isEmpty() && control<QLineEdit>(dialog, "txtPwd2").text().isEmpty());
+    QVERIFY(control<QLineEdit>(dialog, "txtPwd1").hasFocus());
+}
+
+void testPasswordDialogs::keysCloseTheDialog()
+{
+    frmNewPwd dialog(program(), nullptr);
+    for (const char *box : {"txtPwd1", "txtPwd2"}) {
+        dialog.show();
+        enter(dialog, "txtPwd1", u"x"_s);
+        enter(dialog, "txtPwd2", u"x"_s);
+        QTest::keyClick(&control<QLineEdit>(dialog, box), Qt::Key_Return);
+        QVERIFY(!dialog.isVisible() && dialog.requestPassword() == u"x");
+        dialog.show();
+        QTest::keyClick(&control<QLineEdit>(dialog, box), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible() && dialog.requestPassword().isEmpty());
+    }
+}
+
+void testPasswordDialogs::currentPasswordIsVerified()
+{
+    frmChangePwd dialog(program(), nullptr);
+    dialog.Initialize(u"old"_s);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    enter(dialog, "txtPwd3", u"Old"_s);
+    enter(dialog, "txtPwd1", u"new"_s);
+    enter(dialog, "txtPwd2", u"new"_s);
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    press(dialog, "OKButton");
+    QCOMPARE(m_test->prompts.last.text, u"Sorry.  The current password is not correct.  Please try again."_s);
+    auto &current = control<QLineEdit>(dialog, "txtPwd3");
+    QVERIFY(dialog.isVisible() && current.text().isEmpty() && current.hasFocus() && dialog.requestPassword().isEmpty());
+    current.setText(u"old"_s);
+    press(dialog, "OKButton");
+    QCOMPARE(dialog.requestPassword(), u"new"_s);
+}
+
+void testPasswordDialogs::cancelIsNeverRight()
+{
+    frmEnterPwd dialog(program(), nullptr);
+    dialog.show();
+    press(dialog, "OKButton");
+    QVERIFY(dialog.passOn({}) && !dialog.passOn(u"x"_s));
+    dialog.show();
+    enter(dialog, "txtPwd", u"x"_s);
+    press(dialog, "CancelButton");
+    QVERIFY(!dialog.passOn({}) && !dialog.passOn(u"x"_s));
+}
+
+void testPasswordDialogs::everyBoxIsMasked()
+{
+    const frmNewPwd first(program(), nullptr);
+    const frmChangePwd second(program(), nullptr);
+    const frmEnterPwd third(program(), nullptr);
+    int boxes = 0;
+    for (const QDialog *dialog : std::initializer_list<const QDialog *>{&first, &second, &third})
+        for (const QLineEdit *box : dialog->findChildren<QLineEdit *>()) {
+            QCOMPARE(box->echoMode(), QLineEdit::Password);
+            ++boxes;
+        }
+    QCOMPARE(boxes, 6);
+}
+
+void testPasswordDialogs::wipingKeepsWhatOthersHold()
+{
+    QString password = u"secret"_s;
+    const QString kept = password;
+    secrets::wipe(password);
+    QVERIFY(password.isEmpty() && kept == u"secret");
+}
+
+void testPasswordDialogs::switchingOn()
+{
+    clsNoteProps note;
+    note.PwdOpenCloseOn = true;
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize(note);
+    dialog.show();
+    QCOMPARE(control<QCheckBox>(dialog, "chkPwd1").checkState(), Qt::PartiallyChecked);
+    QVERIFY(!control<QWidget>(dialog, "cmdChangePwd").isEnabled());
+    answerNewPassword(u"new"_s);
+    press(dialog, "chkPwd");
+    QCOMPARE(control<QCheckBox>(dialog, "chkPwd1").checkState(), Qt::Checked);
+    press(dialog, "chkPwd2");
+    press(dialog, "OKButton");
+    QVERIFY(dialog.PwdResult(note));
+    QVERIFY(note.PwdOn && note.Pwd == u"new" && note.PwdOpenCloseOn && note.PwdReadonlyOn && note.SaveTag == 1);
+}
+
+void testPasswordDialogs::switchingOnInVain()
+{
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize({});
+    dialog.show();
+    answerNewPassword({});
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    press(dialog, "chkPwd");
+    QVERIFY((m_test->prompts.last == Message{u"Enabling password protection failed."_s, u"Enabling failed"_s}));
+    QVERIFY(!control<QCheckBox>(dialog, "chkPwd").isChecked());
+    QCOMPARE(control<QCheckBox>(dialog, "chkPwd2").checkState(), Qt::PartiallyChecked);
+}
+
+void testPasswordDialogs::switchingOff_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("off");
+    QTest::newRow("right") << u"old"_s << QByteArray("OKButton") << true;
+    QTest::newRow("wrong") << u"OLD"_s << QByteArray("OKButton") << false;
+    QTest::newRow("cancelled") << u"old"_s << QByteArray("CancelButton") << false;
+}
+
+void testPasswordDialogs::switchingOff()
+{
+    QFETCH(QString, typed);
+    QFETCH(QByteArray, button);
+    QFETCH(bool, off);
+    clsNoteProps note = protectedNote();
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize(note);
+    dialog.show();
+    answerPassword(typed, button.constData());
+    if (!off)
+        m_test->prompts.expect(Prompts::Answer::Ok);
+    press(dialog, "chkPwd");
+    if (!off)
+        QVERIFY((m_test->prompts.last == Message{u"Disabling password protection failed."_s, u"Disabling failed"_s}));
+    QCOMPARE(control<QCheckBox>(dialog, "chkPwd").isChecked(), !off);
+    press(dialog, "OKButton");
+    QVERIFY(dialog.PwdResult(note));
+    QCOMPARE(note.PwdOn, !off);
+    QCOMPARE(note.Pwd, off ? QString() : u"old"_s);
+}
+
+void testPasswordDialogs::switchedOnAndOffAgainAsksNothing()
+{
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize({});
+    dialog.show();
+    answerNewPassword(u"new"_s);
+    press(dialog, "chkPwd");
+    press(dialog, "chkPwd");
+    press(dialog, "OKButton");
+    clsNoteProps note = protectedNote();
+    QVERIFY(dialog.PwdResult(note));
+    QVERIFY(!note.PwdOn && note.Pwd.isEmpty());
+}
+
+void testPasswordDialogs::changing()
+{
+    clsNoteProps note = protectedNote();
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize(note);
+    dialog.show();
+    answerDialog(u"frmChangePwd"_s, [](QDialog &change) { press(change, "CancelButton"); });
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    press(dialog, "cmdChangePwd");
+    QVERIFY((m_test->prompts.last == Message{u"Password change failed. "_s, u"Change failed"_s}));
+    answerDialog(u"frmChangePwd"_s, [](QDialog &change) {
+        enter(change, "txtPwd3", u"old"_s);
+        enter(change, "txtPwd1", u"new"_s);
+        enter(change, "txtPwd2", u"new"_s);
+        press(change, "OKButton");
+    });
+    press(dialog, "cmdChangePwd");
+    press(dialog, "OKButton");
+    QVERIFY(dialog.PwdResult(note) && note.Pwd == u"new" && note.PwdOn);
+}
+
+void testPasswordDialogs::cancelDropsAll()
+{
+    const clsNoteProps before = protectedNote();
+    clsNoteProps note = before;
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize(note);
+    dialog.show();
+    press(dialog, "chkPwd1");
+    answerPassword(u"old"_s, "OKButton");
+    press(dialog, "chkPwd");
+    press(dialog, "CancelButton");
+    QVERIFY(!dialog.PwdResult(note) && note == before);
+}
+
+void testPasswordDialogs::captionsToggleTheirBoxes()
+{
+    frmPwdSettings dialog(program(), nullptr);
+    dialog.Initialize({});
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    press(dialog, "lblPwd1");
+    QCOMPARE(control<QCheckBox>(dialog, "chkPwd1").checkState(), Qt::PartiallyChecked);
+    dialog.Initialize(protectedNote());
+    for (const char *name : {"Pwd2", "Pwd1"}) {
+        auto &box = control<QCheckBox>(dialog, (QByteArray("chk") + name).constData());
+        const bool before = box.isChecked();
+        press(dialog, (QByteArray("lbl") + name).constData());
+        QVERIFY(box.isChecked() != before && box.hasFocus());
+        QVERIFY(control<QWidget>(dialog, (QByteArray("sha") + name).constData()).isVisible());
+    }
+    QVERIFY(!control<QWidget>(dialog, "shaPwd2").isVisible());
+}
+
+QTEST_MAIN(testPasswordDialogs)
+#include "testPasswordDialogs.moc"

@@ -1,0 +1,142 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Quillets developers
+# SPDX-License-Identifier: MIT
+"""Drives the real program with a real window manager: testProgram.py PROGRAM DATA_FOLDER"""
+import os
+import shutil
+import signal
+import sys
+import unittest
+
+import desktop
+import notefile
+from desktop import until
+
+SKIPPED = 77
+BODY = (60, 70)
+TITLE = (60, 10)
+
+
+class TestProgram(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.display = desktop.Display()
+        cls.addClassCleanup(cls.display.close)
+
+    def setUp(self):
+        self.home = desktop.Home(self.display, BINARY, os.path.join(DATA, "household.dat"))
+        self.addCleanup(self.home.close)
+
+    def stored(self):
+        return notefile.read(self.home.data_file)
+
+    def stored_note(self, title):
+        return next(note for note in self.stored() if note.title == title)
+
+    def expected_places(self):
+        return sorted(notefile.place(note) for note in self.stored() if not note.on_stack)
+
+    def started(self):
+        """A program whose notes all stand where the file has them."""
+        expected = self.expected_places()
+        program = self.home.start()
+        seen = []
+
+        def settled():
+            seen[:] = sorted(filter(None, (note.place() for note in program.notes())))
+            return seen == expected
+
+        try:
+            until(settled, f"notes at {expected}")
+        except AssertionError:
+            self.assertEqual(seen, expected)
+        program.window("Quillets")
+        return program
+
+    def test_notes_stand_where_they_were_left(self):
+        program = self.started()
+        above = [note.title() for note in program.notes() if "_NET_WM_STATE_ABOVE" in note.state()]
+        self.assertEqual(above, [note.title for note in self.stored() if note.on_top and not note.on_stack])
+        titles = [note.title() for note in program.notes()]
+        self.assertTrue(any(title.startswith("A very long") and title.endswith("...") for title in titles), titles)
+        self.assertNotIn("SKIP_TASKBAR", program.window("Quillets").state())
+        self.assertEqual(program.end(signal.SIGTERM), 0)
+
+    def test_what_a_person_does_to_notes_is_kept(self):
+        program = self.started()
+        note = program.window("Shopping")
+        left, top, width, height = note.place()
+        note.activate()
+        note.click(*BODY)
+        self.display.do("type", "--delay", "20", " and 12 eggs")
+        note.drag(*TITLE, 130, 360)
+        until(lambda: note.place() == (left + 130, top + 360, width, height), "a moved note")
+        note.drag(width - 2, height - 2, 35, 25)
+        until(lambda: note.place() == (left + 130, top + 360, width + 35, height + 25), "a larger note")
+        # Rolling is written at once, and with it all that was done before.
+        note.click(*TITLE, times=2)
+        until(lambda: self.stored_note("Shopping").rolled, "a rolled-up note")
+        self.assertTrue(self.stored_note("Shopping").text.endswith(" and 12 eggs"))
+        until(lambda: note.place()[3] == notefile.ROLLED_HEIGHT, "a low window")
+        other = program.window("Wi-Fi for guests")
+        other.activate()
+        other.click(*BODY)
+        self.display.do("type", "--delay", "20", "!")
+        program.window("Café notes").click(*TITLE, times=2)
+        until(lambda: self.stored_note("Café notes").rolled, "another rolled-up note")
+        self.assertEqual(program.end(signal.SIGTERM), 0)
+        self.assertTrue(self.stored_note("Wi-Fi for guests").text.endswith("!"))
+        self.assertEqual(notefile.place(self.stored_note("Shopping")), (left + 130, top + 360, width + 35, notefile.ROLLED_HEIGHT))
+        self.assertEqual(len(self.stored()), 10)
+        again = self.started()
+        program = again.window("Shopping")
+        program.activate()
+        program.click(*TITLE, times=2)
+        until(lambda: program.place() == (left + 130, top + 360, width + 35, height + 25), "the former height")
+
+    def test_nothing_drifts(self):
+        before = sorted(self.stored())
+        for with_signal in (signal.SIGTERM, None, signal.SIGINT):
+            program = self.started()
+            if with_signal is None:
+                program.window("Quillets").activate()
+                self.display.do("key", "alt+F4")
+                self.assertEqual(program.exit_code(), 0)
+            else:
+                self.assertEqual(program.end(with_signal), 0)
+            self.assertEqual(sorted(self.stored()), before)
+
+    def test_killed_programs_leave_a_whole_file(self):
+        titles = sorted(note.title for note in self.stored())
+        for moment in range(4):
+            program = self.started()
+            written = os.stat(self.home.data_file).st_mtime_ns
+            note = program.window("Release checklist")
+            note.activate()
+            note.click(*TITLE, times=2)
+            until(lambda: os.stat(self.home.data_file).st_mtime_ns != written, "a write")
+            for _ in range(moment):
+                note.click(*TITLE, times=2)
+            self.assertEqual(program.end(signal.SIGKILL), -signal.SIGKILL)
+            self.assertEqual(sorted(note.title for note in self.stored()), titles)
+
+    def test_second_program_ends(self):
+        first = self.started()
+        with open(self.home.data_file, "rb") as file:
+            before = file.read()
+        second = self.home.start()
+        box = second.window("Fatal Program Error")
+        box.activate()
+        self.display.do("key", "Return")
+        self.assertEqual(second.exit_code(), 1)
+        with open(self.home.data_file, "rb") as file:
+            self.assertEqual(file.read(), before)
+        self.assertEqual(len(first.notes()), 8)
+        self.assertEqual(first.end(signal.SIGTERM), 0)
+
+
+if __name__ == "__main__":
+    BINARY, DATA = map(os.path.abspath, sys.argv[1:3])
+    if not all(map(shutil.which, desktop.TOOLS)):
+        sys.exit(SKIPPED)
+    unittest.main(argv=sys.argv[:1] + sys.argv[3:], verbosity=2)
