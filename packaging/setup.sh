@@ -3,7 +3,7 @@
 # Sourced by run and test: the Debian packages that building, running and testing need.
 # shellcheck shell=bash disable=SC2034
 
-BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgl1-mesa-dev)
+BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev libxcb1-dev libgl1-mesa-dev)
 # Fonts: Latin and symbols, the metric twins of the usual office faces, Japanese, Chinese and Korean, emoji.
 RUN_PACKAGES=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-color-emoji)
 DISPLAY_PACKAGES=(xvfb openbox x11vnc x11-apps imagemagick)

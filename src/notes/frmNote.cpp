@@ -195,7 +195,7 @@ void frmNote::ResetAlarms()
 void frmNote::signalAlarm()
 {
     if (m_record.FlashOn)
-        m_flash.StartFlashing(m_ink.paper);
+        m_flash.StartFlashing(colours::fromLong(m_record.BackColor));
     if (m_record.SoundFileOn)
         PlayAlarmSound();
 }

@@ -110,7 +110,7 @@ void NoteTabs::paintTab(QPainter &painter, int index) const
     painter.setPen(ink);
     const QRect text = tabRect(index).adjusted(SidePadding, chosen ? 0 : Raise, -SidePadding, 0);
     painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, caption(index));
-    if (chosen && hasFocus()) {
+    if (chosen && hasNote && hasFocus()) {
         ink.setAlphaF(0.6F);
         painter.setPen(QPen(ink, 1));
         const int width = fontMetrics().horizontalAdvance(caption(index));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
 #include <QSet>
@@ -16,6 +17,13 @@ inline void checkPages(const QDialog &dialog)
     for (int page = 0; page < tabs->count(); ++page) {
         tabs->setCurrentIndex(page);
         QSet<QChar> letters;
+        for (const QCheckBox *box : dialog.findChildren<QCheckBox *>()) {
+            const auto *mark =
+                dialog.findChild<QWidget *>(QString(box->objectName()).replace(0, 3, QStringLiteral("sha")));
+            const QPoint corner = mark->mapFrom(&dialog, box->mapTo(&dialog, QPoint()));
+            QVERIFY2(!box->isVisible() || mark->rect().contains(QRect(corner, box->size())),
+                     qPrintable(box->objectName()));
+        }
         for (QWidget *widget : dialog.findChildren<QWidget *>()) {
             const auto *label = qobject_cast<QLabel *>(widget);
             const auto *button = qobject_cast<QAbstractButton *>(widget);

@@ -10,6 +10,8 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -131,7 +133,8 @@ void testOptionsDialog::numbers_data()
     QTest::addColumn<QString>("shown");
     const QByteArray width("txtSizeWidth");
     const QByteArray port("txtListeningPort");
-    for (const QString &text : {u"1e400"_s, u"-1"_s, u"abc"_s, u"\u0661"_s, u"2abc"_s, u"nan"_s, u"1e38"_s, u"1 2"_s, u""_s})
+    for (const QString &text :
+         {u"1e400"_s, u"-1"_s, u"abc"_s, u"\u0661"_s, u"2abc"_s, u"nan"_s, u"1e38"_s, u"1 2"_s, u""_s})
         QTest::addRow("width %s", qPrintable(text)) << width << text << u"1.5"_s;
     QTest::newRow("width") << width << u" 0.49 "_s << u"0.49"_s;
     for (const QString &text : {u"70000"_s, u"-5"_s, u"14 20"_s, u"1.5"_s, u"80x"_s, u"99999999999"_s})
@@ -158,13 +161,17 @@ void testOptionsDialog::checks_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<int>("page");
     QTest::addColumn<QByteArray>("focus");
-    QTest::newRow("picture") << QByteArray("chkBackPic") << QString() << u"Background Picture Error"_s << 1 << QByteArray("cmdPicFile");
-    QTest::newRow("sound") << QByteArray("chkSoundFile") << QString() << u"Alarm Sound Error"_s << 2 << QByteArray("cmdSoundFile");
+    QTest::newRow("picture") << QByteArray("chkBackPic") << QString() << u"Background Picture Error"_s << 1
+                             << QByteArray("cmdPicFile");
+    QTest::newRow("sound") << QByteArray("chkSoundFile") << QString() << u"Alarm Sound Error"_s << 2
+                           << QByteArray("cmdSoundFile");
     for (const QString &wrong : {u"0.49"_s, u"5.01"_s, u"0"_s})
-        QTest::addRow("height %s", qPrintable(wrong)) << QByteArray("txtSizeHeight") << wrong << u"Quillet Dimensions Error"_s << 0
-                                                      << QByteArray("txtSizeHeight");
+        QTest::addRow("height %s", qPrintable(wrong))
+            << QByteArray("txtSizeHeight") << wrong << u"Quillet Dimensions Error"_s << 0
+            << QByteArray("txtSizeHeight");
     for (const QString &right : {u"0.5"_s, u"5"_s})
-        QTest::addRow("height %s", qPrintable(right)) << QByteArray("txtSizeHeight") << right << QString() << 0 << QByteArray();
+        QTest::addRow("height %s", qPrintable(right))
+            << QByteArray("txtSizeHeight") << right << QString() << 0 << QByteArray();
 }
 
 void testOptionsDialog::checks()
@@ -197,13 +204,16 @@ void testOptionsDialog::files_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("refusal");
     QTest::newRow("picture") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.ico"_s << QString();
-    QTest::newRow("upper case") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.JPG"_s << u"Invalid image file."_s;
+    QTest::newRow("upper case") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.JPG"_s
+                                << u"Invalid image file."_s;
     QTest::newRow("sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a & b.wav"_s << QString();
-    QTest::newRow("no sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a.mp3"_s << u"Invalid sound file."_s;
+    QTest::newRow("no sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a.mp3"_s
+                              << u"Invalid sound file."_s;
     QTest::newRow("send book") << QByteArray("cmdSendBook") << u"Open Send Book"_s << u"/h"_s << QString();
     QTest::newRow("address book") << QByteArray("cmdAddressBook") << u"Open Address Book"_s << u"/h.txt"_s << QString();
     QTest::newRow("cancelled") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << QString() << QString();
-    QTest::newRow("long") << QByteArray("cmdAddressBook") << u"Open Address Book"_s << u"/x"_s.repeated(5000) + u"/end.txt"_s << QString();
+    QTest::newRow("long") << QByteArray("cmdAddressBook") << u"Open Address Book"_s
+                          << u"/x"_s.repeated(5000) + u"/end.txt"_s << QString();
 }
 
 void testOptionsDialog::files()

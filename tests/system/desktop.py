@@ -36,7 +36,8 @@ class Display:
             self.environment = dict(os.environ, DISPLAY=":" + number.readline().strip(), HOME=self._folder, LC_ALL="C.UTF-8")
         for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR"):
             self.environment.pop(name, None)
-        self._manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment, stderr=subprocess.DEVNULL)
+        self._manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment,
+                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "a window manager")
 
     def close(self):

@@ -15,6 +15,7 @@ from desktop import until
 SKIPPED = 77
 BODY = (60, 70)
 TITLE = (60, 10)
+PANEL = "Menu - Quillets"
 
 
 class TestProgram(unittest.TestCase):
@@ -50,7 +51,7 @@ class TestProgram(unittest.TestCase):
             until(settled, f"notes at {expected}")
         except AssertionError:
             self.assertEqual(seen, expected)
-        program.window("Quillets")
+        program.window(PANEL)
         return program
 
     def test_notes_stand_where_they_were_left(self):
@@ -59,7 +60,7 @@ class TestProgram(unittest.TestCase):
         self.assertEqual(above, [note.title for note in self.stored() if note.on_top and not note.on_stack])
         titles = [note.title() for note in program.notes()]
         self.assertTrue(any(title.startswith("A very long") and title.endswith("...") for title in titles), titles)
-        self.assertNotIn("SKIP_TASKBAR", program.window("Quillets").state())
+        self.assertNotIn("SKIP_TASKBAR", program.window(PANEL).state())
         self.assertEqual(program.end(signal.SIGTERM), 0)
 
     def test_what_a_person_does_to_notes_is_kept(self):
@@ -99,7 +100,7 @@ class TestProgram(unittest.TestCase):
         for with_signal in (signal.SIGTERM, None, signal.SIGINT):
             program = self.started()
             if with_signal is None:
-                program.window("Quillets").activate()
+                program.window(PANEL).activate()
                 self.display.do("key", "alt+F4")
                 self.assertEqual(program.exit_code(), 0)
             else:

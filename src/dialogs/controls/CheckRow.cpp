@@ -64,6 +64,14 @@ void CheckRow::explain(const QString &text)
     m_box->setAccessibleDescription(text);
 }
 
+bool CheckRow::event(QEvent *event)
+{
+    // A layout may give the row another parent than it was made with.
+    if (event->type() == QEvent::ParentChange)
+        m_mark->setParent(parentWidget());
+    return QWidget::event(event);
+}
+
 bool CheckRow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_box && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
