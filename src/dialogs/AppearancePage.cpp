@@ -105,10 +105,10 @@ bool AppearancePage::isComplete()
 {
     if (!m_fields.BackPicOn || !m_fields.PicFile.isEmpty())
         return true;
-    m_program.prompts().tell({tr("You have selected to display a background picture.") + u'\n' +
-                                  tr("Please enter a valid picture file."),
-                              tr("Background Picture Error"), Message::Icon::Critical},
-                             window());
+    m_program.prompts().tell(
+        {tr("You have selected to display a background picture.") + u'\n' + tr("Please enter a valid picture file."),
+         tr("Background Picture Error"), Message::Icon::Critical},
+        window());
     return false;
 }
 

@@ -43,10 +43,10 @@ bool AttentionGroup::isComplete()
 {
     if (!m_fields.SoundFileOn || !m_fields.SoundFile.isEmpty())
         return true;
-    m_program.prompts().tell({tr("You have selected to play a sound for the alarm.") + u'\n' +
-                                  tr("Please enter a valid sound file."),
-                              tr("Alarm Sound Error"), Message::Icon::Critical},
-                             window());
+    m_program.prompts().tell(
+        {tr("You have selected to play a sound for the alarm.") + u'\n' + tr("Please enter a valid sound file."),
+         tr("Alarm Sound Error"), Message::Icon::Critical},
+        window());
     return false;
 }
 

@@ -54,8 +54,7 @@ std::optional<double> toInches(const QString &text)
 {
     bool isNumber = false;
     const double inches = QString(text).replace(QLocale().decimalPoint(), QLatin1String(".")).toDouble(&isNumber);
-    const bool inRange =
-        isNumber && inches >= 0 && inches * TwipsPerInch <= double(std::numeric_limits<float>::max());
+    const bool inRange = isNumber && inches >= 0 && inches * TwipsPerInch <= double(std::numeric_limits<float>::max());
     return inRange ? std::optional(inches) : std::nullopt;
 }
 
@@ -206,8 +205,8 @@ QGroupBox *frmOptions::makeSend(QWidget *page)
     auto *group = new QGroupBox(tr("Send"), page);
     QFormLayout *rows = rowsOf(group);
     rows->addRow(tr("&Listening port:"), makePort());
-    rows->addRow(QString(), hint(tr("0 receives nothing. A changed port takes effect\nat the next start of Quillets."),
-                                 group));
+    rows->addRow(QString(),
+                 hint(tr("0 receives nothing. A changed port takes effect\nat the next start of Quillets."), group));
     addBook(rows, QStringLiteral("cmdSendBook"), tr("Send &book:"), tr("Open Send Book"), m_options.SendBook);
     return group;
 }

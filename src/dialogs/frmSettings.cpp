@@ -24,8 +24,8 @@ frmSettings::frmSettings(Program &program, QWidget *owner)
     : TabbedDialog(program, QStringLiteral("frmSettings"), tr("Current Quillet Settings"), owner),
       m_appearance(new AppearancePage(program, AppearanceFields::of(m_settings),
                                       {tr("Open picture file"), tr("Change font settin&gs")}, this)),
-      m_protection(new PasswordProtection(program, PasswordFields::of(m_settings),
-                                          PasswordProtection::WhenOff::Disabled, this)),
+      m_protection(
+          new PasswordProtection(program, PasswordFields::of(m_settings), PasswordProtection::WhenOff::Disabled, this)),
       m_alarm(new AlarmPage(program, m_settings, this))
 {
     addPage(QStringLiteral("fraAppearanceOut"), tr("Appearance"), m_appearance, m_appearance->fontField());

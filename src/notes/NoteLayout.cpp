@@ -13,7 +13,7 @@ constexpr int FirstImage = 5;
 constexpr int ImagePitch = 19;
 constexpr int TitleLeft = 26;
 constexpr int MenuLeft = 5;
-constexpr int EditRight = 6;
+constexpr int EditRight = 4;
 
 int px(int design)
 {

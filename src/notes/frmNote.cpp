@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/frmNote.h"
 
+#include "notes/commands/noteEditing.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/ResizeHandles.h"
 #include "notes/parts/LockOverlay.h"
@@ -11,7 +12,6 @@
 #include "platform/Colours.h"
 #include "platform/SoundPlayer.h"
 #include "platform/WindowStacking.h"
-#include "security/noteLocks.h"
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 
@@ -175,7 +175,7 @@ void frmNote::beginTextEditing()
     const QPointer<frmNote> self = this;
     if (m_locked || m_body->isEditing())
         return;
-    if (!noteLocks::checkEditing(m_program, m_record, this) || self == nullptr || m_locked || isUnloaded())
+    if (!noteEditing::mayEdit(m_program, m_record, this) || self == nullptr || m_locked || isUnloaded())
         return;
     activateWindow();
     m_body->BeginTextEditing(m_record.Data);

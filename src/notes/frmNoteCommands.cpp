@@ -5,6 +5,7 @@
 #include "notes/commands/noteClipboard.h"
 #include "notes/commands/noteDialogs.h"
 #include "notes/commands/noteDressing.h"
+#include "notes/commands/noteEditing.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/frmNote.h"
@@ -188,13 +189,8 @@ void frmNote::toggleOnTop()
 
 void frmNote::paste()
 {
-    const auto text = noteClipboard::text();
-    if (!text || m_locked || noteLocks::isReadOnly(m_record))
-        return;
-    m_body->commit();
-    m_body->replaceText(m_record.Data, *text);
-    m_record.Data = *text;
-    markChanged();
+    if (!m_locked)
+        noteEditing::paste(m_record, *m_body);
 }
 
 void frmNote::print()

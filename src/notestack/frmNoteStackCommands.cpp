@@ -5,6 +5,7 @@
 #include "notes/commands/noteClipboard.h"
 #include "notes/commands/noteDialogs.h"
 #include "notes/commands/noteDressing.h"
+#include "notes/commands/noteEditing.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/modCreateNote.h"
@@ -217,7 +218,7 @@ void frmNoteStack::keyPressEvent(QKeyEvent *event)
 void frmNoteStack::beginTextEditing(StackNote &note)
 {
     const qint32 tag = note.record.Tag;
-    if (note.locked || note.body->isEditing() || !noteLocks::checkEditing(m_program, note.record, this))
+    if (note.locked || note.body->isEditing() || !noteEditing::mayEdit(m_program, note.record, this))
         return;
     StackNote *now = chosen();
     if (now != nullptr && now->record.Tag == tag && !now->locked)
@@ -303,13 +304,8 @@ void frmNoteStack::print(StackNote &note)
 
 void frmNoteStack::paste(StackNote &note)
 {
-    const auto text = noteClipboard::text();
-    if (!text || note.locked || noteLocks::isReadOnly(note.record))
-        return;
-    note.body->commit();
-    note.body->replaceText(note.record.Data, *text);
-    note.record.Data = *text;
-    note.record.SaveTag = 1;
+    if (!note.locked)
+        noteEditing::paste(note.record, *note.body);
 }
 
 void frmNoteStack::unlock()

@@ -20,7 +20,8 @@ constexpr int LeastWidth = 360;
 
 frmPwdSettings::frmPwdSettings(Program &program, QWidget *owner)
     : QDialog(owner), Form(program.forms, QStringLiteral("frmPwdSettings")), m_program(program),
-      m_protection(new PasswordProtection(program, PasswordFields::of(m_props), PasswordProtection::WhenOff::Grey, this))
+      m_protection(
+          new PasswordProtection(program, PasswordFields::of(m_props), PasswordProtection::WhenOff::Grey, this))
 {
     setObjectName(formName());
     setWindowTitle(tr("Password Settings"));

@@ -37,9 +37,11 @@ frmCredits::frmCredits(Program &program, QWidget *owner)
     rows->setHorizontalSpacing(Margin);
     rows->setVerticalSpacing(Margin / 2);
     rows->addRow(tr("Program:"), label(tr("Written by the Quillets developers,\nfree under the MIT licence."), this));
-    rows->addRow(tr("Toolkit:"), label(tr("Qt %1, under the GNU Lesser General\nPublic License, version 3.")
-                                           .arg(QString::fromLatin1(qVersion())),
-                                       this));
+    rows->addRow(
+        tr("Toolkit:"),
+        label(
+            tr("Qt %1, under the GNU Lesser General\nPublic License, version 3.").arg(QString::fromLatin1(qVersion())),
+            this));
     rows->addRow(tr("Pictures:"), label(tr("Drawn for Quillets, under its licence."), this));
     rows->addRow(tr("Fonts:"), label(tr("Those of your desktop; none come with Quillets."), this));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);

@@ -192,10 +192,10 @@ void testEditing::noteThatGoesBehindTheTitlesBox()
     NoteFixture::control<QLineEdit>(*note, "txtTitle").clear();
     m_fixture->test.prompts.expect(Answer::Ok);
     m_fixture->test.prompts.whileOpen = [&note] {
-        note->unload();
+        note->ToTheNoteStack();
         NoteFixture::deleteUnloaded();
     };
-    note->ToTheNoteStack();
+    QTest::keyClick(&NoteFixture::control<QLineEdit>(*note, "txtTitle"), Qt::Key_Return);
     QVERIFY(note == nullptr);
 }
 

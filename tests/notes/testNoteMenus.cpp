@@ -134,13 +134,16 @@ void testNoteMenus::onTop()
 void testNoteMenus::help()
 {
     frmNote *note = m_fixture->create(u"text"_s);
+    QString &page = m_fixture->program.file.paths.HelpFile;
+    page = m_fixture->home.paths.DataFolder + u"/a page.html"_s;
+    TestHome::setContents(page, "help");
     NoteFixture::choose(*note, "mnuHelp");
-    QCOMPARE(m_fixture->test.browser.last.toLocalFile(), m_fixture->home.paths.HelpFile);
+    QCOMPARE(m_fixture->test.browser.last.toLocalFile(), page);
     m_fixture->test.browser.isThere = false;
     m_fixture->test.prompts.expect(Answer::Ok);
     NoteFixture::choose(*note, "mnuHelp");
     QCOMPARE(m_fixture->test.prompts.last.text, u"Could not find associated Browser"_s);
-    m_fixture->program.file.paths.HelpFile = u"/no/such.htm"_s;
+    page = u"/no/such.html"_s;
     m_fixture->test.prompts.expect(Answer::Ok);
     NoteFixture::choose(*note, "mnuHelp");
     QCOMPARE(m_fixture->test.prompts.last.text, u"Web Page not Opened"_s);

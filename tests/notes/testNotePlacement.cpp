@@ -105,7 +105,7 @@ void testNotePlacement::cascades()
     }
     clsNoteProps rolled = nowhere;
     rolled.FrmScrolledOn = true;
-    rolled.FrmHeight = 1;
+    rolled.FrmHeight = Dpi96.fromPixels(2);
     QCOMPARE(NotePlacement::of(rolled, Dpi96, One, Fallback, CascadeFrom, 0).geometry.height(), NoteLayout::rolledHeight());
 }
 

@@ -121,7 +121,8 @@ void testPasswordDialogs::newPassword()
     if (message.isEmpty())
         return;
     QVERIFY(m_test->prompts.last == Message{.text = message});
-    QVERIFY(control<QLineEdit>(dialog, "txtPwd1").text().isEmpty() && control<QLineEdit>(dialog, "txtPwd2").text().isEmpty());
+    QVERIFY(control<QLineEdit>(dialog, "txtPwd1").text().isEmpty() &&
+            control<QLineEdit>(dialog, "txtPwd2").text().isEmpty());
     QVERIFY(control<QLineEdit>(dialog, "txtPwd1").hasFocus());
 }
 

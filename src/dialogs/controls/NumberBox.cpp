@@ -9,7 +9,8 @@ namespace
 constexpr int Digits = 10;
 }
 
-NumberBox::NumberBox(const QString &name, Reader reader, QWidget *parent) : QLineEdit(parent), m_reader(std::move(reader))
+NumberBox::NumberBox(const QString &name, Reader reader, QWidget *parent)
+    : QLineEdit(parent), m_reader(std::move(reader))
 {
     setObjectName(name);
     connect(this, &QLineEdit::textChanged, this, &NumberBox::read);

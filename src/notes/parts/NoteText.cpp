@@ -113,7 +113,7 @@ void NoteText::paintEvent(QPaintEvent *)
     layOutTo(m_scroll + height());
     QPainter painter(this);
     painter.setPen(m_ink);
-    painter.setClipRect(rect().marginsRemoved({0, m_scroll > 0 ? 0 : Air.top(), 0, 1}));
+    painter.setClipRect(rect().marginsRemoved({Air.left(), m_scroll > 0 ? 0 : Air.top(), Air.right(), 1}));
     const QPointF origin(Air.left(), Air.top() - m_scroll);
     for (const Paragraph &paragraph : m_paragraphs) {
         const qreal top = paragraph.top - m_scroll;

@@ -8,6 +8,8 @@ namespace textShortening {
 namespace {
 
 constexpr qsizetype FirstGuess = 64;
+/// Wider than any screen, unless the characters take no room.
+constexpr qsizetype MostCharacters = 4096;
 
 class Ruler
 {
@@ -32,9 +34,10 @@ QString cutAt(const QString &text, qsizetype length)
 /// A length whose beginning no longer fits, found by doubling; the text's length when all of it fits.
 qsizetype tooLong(const QString &text, const Ruler &ruler)
 {
-    qsizetype length = qMin(FirstGuess, text.size());
-    while (length < text.size() && ruler.fits(text.left(length)))
-        length = qMin(length * 2, text.size());
+    const qsizetype most = qMin(MostCharacters, text.size());
+    qsizetype length = qMin(FirstGuess, most);
+    while (length < most && ruler.fits(text.left(length)))
+        length = qMin(length * 2, most);
     return length;
 }
 

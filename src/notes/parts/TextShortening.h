@@ -8,7 +8,7 @@
 namespace textShortening {
 
 /// The text itself where it is not wider than `maxWidth` pixels in the font; else its longest beginning that fits
-/// with "..." behind it; "..." when not even that fits. Measures no more of a long text than could fit.
+/// with "..." behind it; "..." when not even that fits. Measures no more of a long text than could fit on a screen.
 QString shortened(const QString &text, int maxWidth, const QFont &font);
 
 } // namespace textShortening

@@ -19,7 +19,8 @@ int notesInStack(const Program &program)
 void commitAll(Program &program)
 {
     for (Form *form : program.forms.loaded())
-        form->commitEditing();
+        if (program.forms.isLoaded(form))
+            form->commitEditing();
 }
 
 void tellFailure(Program &program, const QString &reason)
