@@ -6,7 +6,8 @@
 #include <memory>
 #include <vector>
 
-namespace {
+namespace
+{
 constexpr int WindowsInARow = 10;
 constexpr int ChildrenInARow = 5;
 constexpr QSize WindowSize(220, 168);
@@ -25,7 +26,8 @@ int main(int argc, char *argv[])
         window->setAttribute(Qt::WA_ShowWithoutActivating);
         for (int child = 0; child < ChildrenInARow * ChildrenInARow; ++child) {
             auto *label = new QLabel(QString::number(child), window.get());
-            label->setGeometry({{child % ChildrenInARow * ChildSize.width(), child / ChildrenInARow * ChildSize.height()}, ChildSize});
+            label->setGeometry(
+                {{child % ChildrenInARow * ChildSize.width(), child / ChildrenInARow * ChildSize.height()}, ChildSize});
         }
         window->setGeometry({{1 + i % WindowsInARow * 100, 1 + i / WindowsInARow * 80}, WindowSize});
         window->show();

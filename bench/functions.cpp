@@ -14,7 +14,8 @@
 
 #include <vector>
 
-namespace {
+namespace
+{
 
 constexpr int MostNotes = 100;
 

@@ -19,18 +19,12 @@ constexpr int Margin = 12;
 }
 
 TabbedDialog::TabbedDialog(Program &program, const QString &formName, const QString &caption, QWidget *owner)
-    : QDialog(owner), Form(program.forms, formName), m_program(program), m_tabs(new QTabWidget(this)),
-      m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+    : QDialog(owner), Form(program.forms, formName), m_program(program), m_tabs(new QTabWidget(this))
 {
     setObjectName(formName);
     setWindowTitle(caption);
     setModal(true);
     m_tabs->setObjectName(QStringLiteral("TabOptions"));
-    m_buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    m_buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    m_buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    connect(m_buttons, &QDialogButtonBox::accepted, this, &TabbedDialog::accept);
-    connect(m_buttons, &QDialogButtonBox::rejected, this, &TabbedDialog::reject);
     // The pressed tab is shown only after this signal.
     connect(m_tabs, &QTabWidget::tabBarClicked, this, &TabbedDialog::choosePage, Qt::QueuedConnection);
     auto *forward = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
@@ -41,7 +35,6 @@ TabbedDialog::TabbedDialog(Program &program, const QString &formName, const QStr
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Margin);
     layout->addWidget(m_tabs);
-    layout->addWidget(m_buttons);
 }
 
 TabbedDialog::~TabbedDialog()
@@ -58,6 +51,18 @@ void TabbedDialog::addPage(const QString &name, const QString &caption, QWidget 
     layout->addWidget(content);
     m_tabs->addTab(page, caption);
     m_firstFields.push_back(firstField);
+}
+
+QDialogButtonBox *TabbedDialog::addButtons()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &TabbedDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &TabbedDialog::reject);
+    layout()->addWidget(buttons);
+    return buttons;
 }
 
 void TabbedDialog::select(int page, QWidget *field)

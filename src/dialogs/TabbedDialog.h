@@ -30,6 +30,8 @@ protected:
 
     /// A page whose content is `content`; its first field gets the focus when the page is chosen.
     void addPage(const QString &name, const QString &caption, QWidget *content, QWidget *firstField);
+    /// OK and Cancel; said after the last page, so that the Tab key comes to them last.
+    QDialogButtonBox *addButtons();
     void select(int page, QWidget *field);
     /// Says itself what is not in order, and where.
     virtual bool isInOrder() = 0;
@@ -37,7 +39,6 @@ protected:
     void showEvent(QShowEvent *event) override;
 
     Program &program() { return m_program; }
-    QDialogButtonBox &buttons() { return *m_buttons; }
 
 private:
     void choosePage(int page);
@@ -45,6 +46,5 @@ private:
 
     Program &m_program;
     QTabWidget *m_tabs; // TabOptions
-    QDialogButtonBox *m_buttons;
     std::vector<QWidget *> m_firstFields;
 };

@@ -44,7 +44,7 @@ frmOptions::frmOptions(Program &program, QWidget *owner)
     addPage(QStringLiteral("fraOptions2"), tr("Alarm/Password"), alarm, m_attention->soundSwitch());
     QWidget *networking = makeNetworking();
     addPage(QStringLiteral("fraOptions3"), tr("Networking"), networking, m_emailAddress);
-    QPushButton *defaults = buttons().addButton(tr("Defa&ults"), QDialogButtonBox::ResetRole);
+    QPushButton *defaults = addButtons()->addButton(tr("Defa&ults"), QDialogButtonBox::ResetRole);
     defaults->setObjectName(QStringLiteral("cmdDefaults"));
     defaults->setAutoDefault(false);
     connect(defaults, &QPushButton::clicked, this, [this] { Initialize(this->program().DefaultOptions); });

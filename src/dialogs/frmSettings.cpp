@@ -31,6 +31,7 @@ frmSettings::frmSettings(Program &program, QWidget *owner)
     addPage(QStringLiteral("fraAppearanceOut"), tr("Appearance"), m_appearance, m_appearance->fontField());
     addPage(QStringLiteral("fraPasswordOut"), tr("Password"), m_protection, m_protection->firstField());
     addPage(QStringLiteral("fraAlarmOut"), tr("Alarm"), m_alarm, m_alarm->firstField());
+    addButtons();
 }
 
 frmSettings::~frmSettings()

@@ -4,10 +4,11 @@
 
 #include "platform/Twips.h"
 
-namespace {
+namespace
+{
 
 constexpr int Outline = 1;
-constexpr int Edge = 4;    ///< Thickness of the resize handles.
+constexpr int Edge = 4; ///< Thickness of the resize handles.
 constexpr int Picture = 16;
 constexpr int FirstImage = 5;
 constexpr int ImagePitch = 19;
@@ -81,9 +82,12 @@ void layOutHandles(NoteLayout &to, QSize window)
     const int right = px(NoteLayout::CornerRight);
     to.sides = {QRect(w - Edge, inset / 2, Edge, h - inset), QRect(0, inset / 2, Edge, h - inset)};
     to.topEnds = {QRect(inset / 2, h - Edge, w - inset, Edge), QRect(inset / 2, 0, w - inset, Edge)};
-    to.corners = {QRect(w - reach, h - Edge, reach, Edge), QRect(w - reach, h - low, reach, low),
-                  QRect(0, h - Edge, reach, Edge),         QRect(0, h - low, reach, low),
-                  QRect(0, 0, right, right),               QRect(w - right, 0, right, right)};
+    to.corners = {QRect(w - reach, h - Edge, reach, Edge),
+                  QRect(w - reach, h - low, reach, low),
+                  QRect(0, h - Edge, reach, Edge),
+                  QRect(0, h - low, reach, low),
+                  QRect(0, 0, right, right),
+                  QRect(w - right, 0, right, right)};
 }
 
 } // namespace

@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 using Answer = Prompts::Answer;
 using SaveAll = bool (*)(Program &);
 
-
 class testSaving final : public QObject
 {
     Q_OBJECT
@@ -159,7 +158,8 @@ void testSaving::cancelled_data()
 {
     using Cancel = std::function<void(QWidget &)>;
     QTest::addColumn<Cancel>("cancel");
-    QTest::newRow("button") << Cancel([](QWidget &status) { status.findChild<QPushButton *>(u"cmdCancel"_s)->click(); });
+    QTest::newRow("button") << Cancel(
+        [](QWidget &status) { status.findChild<QPushButton *>(u"cmdCancel"_s)->click(); });
     QTest::newRow("Escape") << Cancel([](QWidget &status) { QTest::keyClick(&status, Qt::Key_Escape); });
     QTest::newRow("close") << Cancel([](QWidget &status) { QVERIFY(!status.close()); });
 }

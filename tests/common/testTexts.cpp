@@ -34,11 +34,13 @@ void testTexts::captions()
 
 void testTexts::fileKinds()
 {
-    for (const QStringView path : {u"a.dib", u"a.bmp", u"a.gif", u"a.jpg", u"a.wmf", u"a.emf", u"a.ico", u"a.cur", u" x.gif ", u"gif"})
+    for (const QStringView path :
+         {u"a.dib", u"a.bmp", u"a.gif", u"a.jpg", u"a.wmf", u"a.emf", u"a.ico", u"a.cur", u" x.gif ", u"gif"})
         QVERIFY2(modForms::IsPictureFile(path), qPrintable(path.toString()));
     for (const QStringView path : {u"", u"if", u"a.GIF", u"a.png", u"a.jpeg", u"a.gif.exe", u"a.wav"})
         QVERIFY2(!modForms::IsPictureFile(path), qPrintable(path.toString()));
-    QVERIFY(modForms::IsSoundFile(u"ring.wav ") && !modForms::IsSoundFile(u"ring.WAV") && !modForms::IsSoundFile(u"ring.gif"));
+    QVERIFY(modForms::IsSoundFile(u"ring.wav ") && !modForms::IsSoundFile(u"ring.WAV") &&
+            !modForms::IsSoundFile(u"ring.gif"));
 }
 
 void testTexts::flattening_data()

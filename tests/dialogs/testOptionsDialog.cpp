@@ -8,6 +8,7 @@
 #include "support/failOnWarnings.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
@@ -270,7 +271,11 @@ void testOptionsDialog::tabsGoRound()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
         QVERIFY2(control<QWidget>(*m_dialog, first).hasFocus(), first);
     }
-    control<QWidget>(*m_dialog, "cmdOK").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(control<QWidget>(*m_dialog, "txtNameTitle").hasFocus());
+    control<QWidget>(*m_dialog, "txtSizeWidth").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(qobject_cast<QDialogButtonBox *>(QApplication::focusWidget()->parent()) != nullptr);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(tabs.currentIndex(), 3);
     QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(2).center());

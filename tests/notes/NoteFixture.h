@@ -21,7 +21,8 @@ class NoteFixture
 public:
     NoteFixture() : test(QDateTime(QDate(2026, 3, 1), QTime(12, 0)), home.paths), program(test.program)
     {
-        program.DefaultOptions = modFileIO::SetProgramDefaults(home.paths, {0x0000FFFF, 0, QStringLiteral("DejaVu Sans"), 9});
+        program.DefaultOptions =
+            modFileIO::SetProgramDefaults(home.paths, {0x0000FFFF, 0, QStringLiteral("DejaVu Sans"), 9});
         program.ProgramOptions = program.DefaultOptions;
         program.ProgramOptions.TitleBarOn = false;
         program.BuildNoteDefaults();
@@ -56,7 +57,8 @@ public:
     {
         openMenu(note, ofPicture);
         control<QAction>(note, entry).trigger();
-        for (QWidget *popup = QApplication::activePopupWidget(); popup != nullptr; popup = QApplication::activePopupWidget())
+        for (QWidget *popup = QApplication::activePopupWidget(); popup != nullptr;
+             popup = QApplication::activePopupWidget())
             popup->close();
         QCoreApplication::processEvents();
     }

@@ -7,7 +7,8 @@
 using namespace Qt::StringLiterals;
 using Answer = Prompts::Answer;
 
-namespace {
+namespace
+{
 
 /// The entries as they are read: "-" a separator, "+" checked, "(...)" disabled, "[...]" what a submenu holds.
 QString described(const QMenu &menu)

@@ -7,7 +7,8 @@
 
 #include <limits>
 
-namespace {
+namespace
+{
 
 const Twips Dpi96(96);
 constexpr QSize Fallback(200, 150);
@@ -106,7 +107,8 @@ void testNotePlacement::cascades()
     clsNoteProps rolled = nowhere;
     rolled.FrmScrolledOn = true;
     rolled.FrmHeight = Dpi96.fromPixels(2);
-    QCOMPARE(NotePlacement::of(rolled, Dpi96, One, Fallback, CascadeFrom, 0).geometry.height(), NoteLayout::rolledHeight());
+    QCOMPARE(NotePlacement::of(rolled, Dpi96, One, Fallback, CascadeFrom, 0).geometry.height(),
+             NoteLayout::rolledHeight());
 }
 
 void testNotePlacement::isReachableWhateverIsStored_data()
@@ -122,8 +124,9 @@ void testNotePlacement::isReachableWhateverIsStored()
 {
     QFETCH(std::vector<QRect>, screens);
     using Limits = std::numeric_limits<float>;
-    const std::vector<float> extremes{Nan, Infinite, -Infinite, 0, -0.0F, Limits::max(), Limits::lowest(),
-                                      Limits::denorm_min(), 1, -15, 14985, 32767.5F, 1.5e7F};
+    const std::vector<float> extremes{
+        Nan, Infinite, -Infinite, 0,        -0.0F, Limits::max(), Limits::lowest(), Limits::denorm_min(),
+        1,   -15,      14985,     32767.5F, 1.5e7F};
     for (const float left : extremes)
         for (const float top : extremes)
             for (const float width : extremes)
@@ -134,7 +137,8 @@ void testNotePlacement::isReachableWhateverIsStored()
                     note.FrmWidth = width;
                     note.FrmHeight = height;
                     const QRect at = NotePlacement::of(note, Dpi96, screens, Fallback, CascadeFrom, 7).geometry;
-                    QVERIFY(at.width() >= NoteLayout::smallestSize().width() && at.height() >= NoteLayout::smallestSize().height());
+                    QVERIFY(at.width() >= NoteLayout::smallestSize().width() &&
+                            at.height() >= NoteLayout::smallestSize().height());
                     const QRect title(at.topLeft(), QSize(at.width(), NoteLayout::rolledHeight()));
                     const bool seen = std::any_of(screens.begin(), screens.end(), [&](const QRect &screen) {
                         const QRect part = screen.intersected(title);

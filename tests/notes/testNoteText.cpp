@@ -28,12 +28,14 @@ void testNoteText::drawsWhatTheTextBoxDraws_data()
     QTest::newRow("words that wrap") << u"A line that is rather long and breaks more than once, and  wide   gaps"_s;
     QTest::newRow("a word that does not fit") << u"Donaudampfschifffahrtsgesellschaftskapitänsmützenabzeichen end"_s;
     QTest::newRow("tabs") << u"\tone\r\na\tb\tc\td\r\n1234567890123\tx"_s;
-    QTest::newRow("blanks at line ends") << u"first      \r\n     second                                          third"_s;
+    QTest::newRow("blanks at line ends")
+        << u"first      \r\n     second                                          third"_s;
     QTest::newRow("Japanese") << u"歯医者に電話する。\r\n保険証番号は青いファイルの中にあります、忘れないこと"_s;
     QTest::newRow("emoji") << u"🎂 at four 🐕\r\nx🎂y"_s;
     QTest::newRow("Hebrew and Arabic") << u"שלום עולם שלום\r\nmixed שלום text\r\nمرحبا بالعالم"_s;
     QTest::newRow("accents and ligatures") << u"Crème brûlée, ½ l, office fluffy e\u0301"_s;
-    QTest::newRow("no-break blanks") << u"a\u00a0b\u00a0c\u00a0d\u00a0e\u00a0f\u00a0g\u00a0h\u00a0i\u00a0j\u00a0k\u00a0l\u00a0m\u00a0n"_s;
+    QTest::newRow("no-break blanks")
+        << u"a\u00a0b\u00a0c\u00a0d\u00a0e\u00a0f\u00a0g\u00a0h\u00a0i\u00a0j\u00a0k\u00a0l\u00a0m\u00a0n"_s;
     QTest::newRow("line separators") << u"one\u2028two\u2029three"_s;
     QTest::newRow("other line ends") << u"one\ntwo\rthree\r\n"_s;
     QTest::newRow("zero in the middle") << u"one"_s + QChar() + u"two"_s;
@@ -76,7 +78,8 @@ void testNoteText::drawsWhereItIsScrolledTo()
     text.setCaption(lines);
     const QImage top = text.grab().toImage();
     const auto wheel = [&text](int notches) {
-        QWheelEvent event({50, 50}, {50, 50}, {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent event({50, 50}, {50, 50}, {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
         QCoreApplication::sendEvent(&text, &event);
         return text.grab().toImage();
     };

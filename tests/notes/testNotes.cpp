@@ -61,7 +61,8 @@ void testNotes::newNotes()
         QCOMPARE(record.Tag, expected);
         QCOMPARE(record.SaveTag, qint16(1));
         QCOMPARE(record.DateCreated, QLocale().toString(m_fixture->test.clock.now(), QLocale::ShortFormat));
-        QCOMPARE(note->size(), QSize(program.twips.toPixels(record.FrmWidth), program.twips.toPixels(record.FrmHeight)));
+        QCOMPARE(note->size(),
+                 QSize(program.twips.toPixels(record.FrmWidth), program.twips.toPixels(record.FrmHeight)));
         QCOMPARE(QPoint(program.twips.toPixels(record.FrmLeft), program.twips.toPixels(record.FrmTop)), note->pos());
         QVERIFY(note->isVisible() && note->windowFlags().testFlag(Qt::FramelessWindowHint));
     }
@@ -77,8 +78,8 @@ void testNotes::limit()
     QCOMPARE(m_fixture->create(u"last"_s)->Tag(), 100);
     m_fixture->test.prompts.expect(Answer::Ok);
     QCOMPARE(m_fixture->create(u"one more"_s), nullptr);
-    QCOMPARE(m_fixture->test.prompts.last,
-             (Message{u"You cannot have more than 100 Quillets.\nQuillet not created."_s, u"error"_s, Message::Icon::Critical}));
+    QCOMPARE(m_fixture->test.prompts.last, (Message{u"You cannot have more than 100 Quillets.\nQuillet not created."_s,
+                                                    u"error"_s, Message::Icon::Critical}));
     QCOMPARE(program.forms.notes().size(), size_t(1));
     QCOMPARE(program.NoteCounter, 100);
     clsNoteProps moved = program.NoteTemplate;
@@ -155,7 +156,8 @@ void testNotes::missingFilesAreTold()
     record.SoundFile = m_fixture->home.paths.ImagesFolder + u"/menuup.gif"_s;
     m_fixture->test.prompts.expect(Answer::Ok);
     QVERIFY(!m_fixture->create(record)->GetThisNoteProps()->BackPicOn);
-    QCOMPARE(m_fixture->test.prompts.last.text, u"The image /no/such.gif could not be found.\nLoading quillet without image."_s);
+    QCOMPARE(m_fixture->test.prompts.last.text,
+             u"The image /no/such.gif could not be found.\nLoading quillet without image."_s);
     record.PicFile = u"/no/such.wav"_s;
     std::swap(record.PicFile, record.SoundFile);
     m_fixture->test.prompts.expect(Answer::Ok);
@@ -230,8 +232,8 @@ void testNotes::drag(frmNote &note, const char *control, QPoint by)
     auto &held = NoteFixture::control<QWidget>(note, control);
     const QPoint at = held.mapToGlobal(held.rect().center());
     const auto send = [&held](QEvent::Type type, QPoint where, Qt::MouseButtons buttons) {
-        QMouseEvent event(type, held.mapFromGlobal(where), where, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons,
-                          Qt::NoModifier);
+        QMouseEvent event(type, held.mapFromGlobal(where), where,
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
         QCoreApplication::sendEvent(&held, &event);
     };
     send(QEvent::MouseButtonPress, at, Qt::LeftButton);
@@ -257,7 +259,8 @@ void testNotes::dragged_data()
     // 200 x 150 can lose 133 x 129.
     QTest::newRow("left, too far") << QByteArray("lblResizeh(1)") << QPoint(500, 0) << QMargins(-133, 0, 0, 0);
     QTest::newRow("top left, too far") << QByteArray("lblResize(4)") << QPoint(500, 500) << QMargins(-133, -129, 0, 0);
-    QTest::newRow("bottom right, too far") << QByteArray("lblResize(0)") << QPoint(-500, -500) << QMargins(0, 0, -133, -129);
+    QTest::newRow("bottom right, too far")
+        << QByteArray("lblResize(0)") << QPoint(-500, -500) << QMargins(0, 0, -133, -129);
 }
 
 void testNotes::dragged()

@@ -49,7 +49,8 @@ void testTextShortening::longestThatFits()
         QVERIFY2(!splits, qPrintable(QString::number(width)));
         const qsizetype more = kept.size() + (text.at(kept.size()).isHighSurrogate() ? 2 : 1);
         const bool longerThanAScreen = kept.size() > 4000;
-        QVERIFY(longerThanAScreen || more > text.size() || metrics.horizontalAdvance(text.left(more) + u"..."_s) > width);
+        QVERIFY(longerThanAScreen || more > text.size() ||
+                metrics.horizontalAdvance(text.left(more) + u"..."_s) > width);
     }
 }
 

@@ -138,7 +138,9 @@ void testStartUp::damagedFiles_data()
     QTest::newRow("text") << QByteArray("These are not notes. ").repeated(50) << size_t(0);
     QTest::newRow("cut in the middle of a note") << good.left(2000) << size_t(5);
     // Every size, place and font size of the last note becomes NaN.
-    QTest::newRow("impossible numbers") << QByteArray(good).replace(2529 - 1 + 46, 24, QByteArray("\0\0\xC0\x7F", 4).repeated(6)) << size_t(8);
+    QTest::newRow("impossible numbers") << QByteArray(good).replace(2529 - 1 + 46, 24,
+                                                                    QByteArray("\0\0\xC0\x7F", 4).repeated(6))
+                                        << size_t(8);
 }
 
 void testStartUp::damagedFiles()

@@ -4,8 +4,10 @@
 
 #include <QFontMetricsF>
 
-namespace textShortening {
-namespace {
+namespace textShortening
+{
+namespace
+{
 
 constexpr qsizetype FirstGuess = 64;
 /// Wider than any screen, unless the characters take no room.
