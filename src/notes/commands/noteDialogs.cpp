@@ -21,15 +21,20 @@ clsNoteProps *recordOf(Program &program, qint32 tag)
     return holder != nullptr ? holder->recordOf(tag) : nullptr;
 }
 
-/// Shows a dialog for a note and, when it was accepted, lets `take` write its result into the record.
-template <class Dialog, class Take>
-void open(Program &program, qint32 tag, const QPointer<Dialog> &dialog, const Take &take)
+/// Makes a dialog for a note, lets `prepare` dress it, shows it and, when it was accepted, lets `take` write its result
+/// into the record.
+template <class Dialog, class Prepare, class Take>
+void open(Program &program, qint32 tag, QWidget *owner, const Prepare &prepare, const Take &take)
 {
-    if (const clsNoteProps *record = recordOf(program, tag))
-        dialog->Initialize(*record);
+    clsNoteProps *record = recordOf(program, tag);
+    if (record == nullptr)
+        return;
+    const QPointer<Dialog> dialog = new Dialog(program, owner);
+    dialog->Initialize(*record);
+    prepare(*dialog, *record);
     if (!showModally(dialog))
         return;
-    clsNoteProps *record = recordOf(program, tag);
+    record = recordOf(program, tag);
     const bool taken = record != nullptr && take(*dialog, *record);
     if (taken)
         record->SaveTag = 1;
@@ -43,28 +48,29 @@ void open(Program &program, qint32 tag, const QPointer<Dialog> &dialog, const Ta
 
 void openSettings(Program &program, qint32 tag, QWidget *owner)
 {
-    const QPointer<frmSettings> dialog = new frmSettings(program, owner);
-    if (const clsNoteProps *record = recordOf(program, tag)) {
-        const QString title = textShortening::shortened(noteTitles::title(*record), dialog->sizeHint().width() / 3, dialog->font());
-        dialog->setWindowTitle(QCoreApplication::translate("noteDialogs", "Settings for '") + title + u'\'' +
-                               QCoreApplication::translate("noteDialogs", " - Quillets"));
-    }
-    open(program, tag, dialog, [](frmSettings &settings, clsNoteProps &record) { return settings.SettingsResult(record); });
+    const auto caption = [](frmSettings &dialog, const clsNoteProps &record) {
+        const QString title =
+            textShortening::shortened(noteTitles::title(record), dialog.sizeHint().width() / 3, dialog.font());
+        dialog.setWindowTitle(QCoreApplication::translate("noteDialogs", "Settings for '") + title + u'\'' +
+                              QCoreApplication::translate("noteDialogs", " - Quillets"));
+    };
+    open<frmSettings>(program, tag, owner, caption,
+                      [](frmSettings &dialog, clsNoteProps &record) { return dialog.SettingsResult(record); });
 }
 
 void openAlarm(Program &program, qint32 tag, QWidget *owner)
 {
-    const QPointer<frmAlarmSettings> dialog = new frmAlarmSettings(program, owner);
-    open(program, tag, dialog, [](frmAlarmSettings &alarm, clsNoteProps &record) {
-        alarm.AlarmResult(record);
-        return alarm.isAccepted();
-    });
+    open<frmAlarmSettings>(program, tag, owner, [](const auto &, const auto &) {},
+                           [](frmAlarmSettings &dialog, clsNoteProps &record) {
+                               dialog.AlarmResult(record);
+                               return dialog.isAccepted();
+                           });
 }
 
 void openPassword(Program &program, qint32 tag, QWidget *owner)
 {
-    const QPointer<frmPwdSettings> dialog = new frmPwdSettings(program, owner);
-    open(program, tag, dialog, [](frmPwdSettings &password, clsNoteProps &record) { return password.PwdResult(record); });
+    open<frmPwdSettings>(program, tag, owner, [](const auto &, const auto &) {},
+                         [](frmPwdSettings &dialog, clsNoteProps &record) { return dialog.PwdResult(record); });
 }
 
 } // namespace noteDialogs
