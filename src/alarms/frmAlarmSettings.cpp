@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "alarms/frmAlarmSettings.h"
 
-#include "alarms/MarkedCheckBox.h"
 #include "alarms/modAlarm.h"
+#include "dialogs/controls/CheckRow.h"
 #include "model/modCopyObject.h"
 #include "notes/parts/TextShortening.h"
 #include "platform/Choosers.h"
@@ -12,6 +12,7 @@
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 
+#include <QCheckBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -57,10 +58,10 @@ QString timeFormat()
 
 frmAlarmSettings::frmAlarmSettings(Program &program, QWidget *owner)
     : QDialog(owner), Form(program.forms, Name.toString()), m_program(program),
-      m_on(new MarkedCheckBox(QStringLiteral("Alarm"), tr("&Alarm enabled"), this)), m_frame(new QFrame(this)),
+      m_on(new CheckRow(QStringLiteral("Alarm"), tr("&Alarm enabled"), this)), m_frame(new QFrame(this)),
       m_date(new QDateEdit(m_frame)), m_time(new QTimeEdit(m_frame)),
-      m_flash(new MarkedCheckBox(QStringLiteral("Flash"), tr("&Flashing window"), m_frame)),
-      m_soundOn(new MarkedCheckBox(QStringLiteral("SoundFile"), tr("&Play sound (*.wav):"), m_frame)),
+      m_flash(new CheckRow(QStringLiteral("Flash"), tr("&Flashing window"), m_frame)),
+      m_soundOn(new CheckRow(QStringLiteral("SoundFile"), tr("&Play sound (*.wav):"), m_frame)),
       m_soundFile(new QPushButton(m_frame))
 {
     setObjectName(formName());
@@ -133,12 +134,12 @@ QWidget *frmAlarmSettings::makeButtons()
 
 void frmAlarmSettings::connectControls()
 {
-    connect(m_on, &MarkedCheckBox::toggled, this, [this](bool on) {
+    connect(m_on->box(), &QCheckBox::toggled, this, [this](bool on) {
         m_alarm.AlarmOn = on;
         showAlarm();
     });
-    connect(m_flash, &MarkedCheckBox::toggled, this, [this](bool on) { m_alarm.FlashOn = on; });
-    connect(m_soundOn, &MarkedCheckBox::toggled, this, [this](bool on) { m_alarm.SoundFileOn = on; });
+    connect(m_flash->box(), &QCheckBox::toggled, this, [this](bool on) { m_alarm.FlashOn = on; });
+    connect(m_soundOn->box(), &QCheckBox::toggled, this, [this](bool on) { m_alarm.SoundFileOn = on; });
     connect(m_date, &QDateEdit::dateChanged, this, [this](QDate date) { modAlarm::setAlarmDate(m_alarm, date); });
     connect(m_time, &QTimeEdit::timeChanged, this, [this](QTime time) { modAlarm::setAlarmTime(m_alarm, time); });
     connect(m_soundFile, &QPushButton::clicked, this, &frmAlarmSettings::chooseSoundFile);
@@ -155,9 +156,9 @@ void frmAlarmSettings::Initialize(const clsNoteProps &record)
     // What stands in the record and makes no date becomes what the pickers show.
     modAlarm::setAlarmDate(m_alarm, modAlarm::nearestRealDate(m_alarm));
     modAlarm::setAlarmTime(m_alarm, modAlarm::nearestRealTime(m_alarm));
-    m_on->setChecked(m_alarm.AlarmOn);
+    m_on->box()->setChecked(m_alarm.AlarmOn);
     showAlarm();
-    m_on->setFocus();
+    m_on->box()->setFocus();
 }
 
 void frmAlarmSettings::AlarmResult(clsNoteProps &record) const
@@ -170,8 +171,8 @@ void frmAlarmSettings::showAlarm()
 {
     m_date->setDate(modAlarm::nearestRealDate(m_alarm));
     m_time->setTime(modAlarm::nearestRealTime(m_alarm));
-    m_flash->setChecked(m_alarm.FlashOn);
-    m_soundOn->setChecked(m_alarm.SoundFileOn);
+    m_flash->box()->setChecked(m_alarm.FlashOn);
+    m_soundOn->box()->setChecked(m_alarm.SoundFileOn);
     m_frame->setEnabled(m_alarm.AlarmOn);
     m_soundFile->setEnabled(m_alarm.AlarmOn);
     showSoundFile();

@@ -7,7 +7,7 @@
 
 #include <QDialog>
 
-class MarkedCheckBox;
+class CheckRow;
 class Program;
 class QDateEdit;
 class QFrame;
@@ -53,11 +53,11 @@ private:
     Program &m_program;
     clsAlarmProps m_alarm;
     bool m_accepted = false;
-    MarkedCheckBox *m_on;      // chkAlarm
+    CheckRow *m_on;      // chkAlarm
     QFrame *m_frame;           // fraAlarmIn
     QDateEdit *m_date;         // dtpAlarmDate
     QTimeEdit *m_time;         // dtpAlarmTime
-    MarkedCheckBox *m_flash;   // chkFlash
-    MarkedCheckBox *m_soundOn; // chkSoundFile
+    CheckRow *m_flash;   // chkFlash
+    CheckRow *m_soundOn; // chkSoundFile
     QPushButton *m_soundFile;  // cmdSoundFile
 };

@@ -85,7 +85,7 @@ void testStartUp::restoredNotesAreWrittenBackAsTheyWere_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<size_t>("windows");
     QTest::newRow("household") << TestHome::sample("household.dat") << size_t(8);
-    QTest::newRow("hundred") << TestHome::sample("hundred.dat") << size_t(100);
+    QTest::newRow("hundred") << TestHome::sample("hundred.dat") << size_t(75);
 }
 
 void testStartUp::restoredNotesAreWrittenBackAsTheyWere()

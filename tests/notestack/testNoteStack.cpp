@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notestack/StackFixture.h"
+
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+using Answer = Prompts::Answer;
+
+namespace
+{
+using Act = void (*)(StackFixture &);
+}
+
+class testNoteStack final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void emptyState();
+    void deletes_data();
+    void deletes();
+    void captions_data();
+    void captions();
+    void leavingCommits_data();
+    void leavingCommits();
+    void lockedTextIsNowhere();
+    void locks();
+    void wrongPasswords_data();
+    void wrongPasswords();
+    void menus_data();
+    void menus();
+
+private:
+    std::unique_ptr<StackFixture> m_fixture;
+};
+
+void testNoteStack::init()
+{
+    failOnWarnings();
+    m_fixture = std::make_unique<StackFixture>();
+}
+
+void testNoteStack::cleanup()
+{
+    QVERIFY(m_fixture->test.prompts.isDone());
+    m_fixture.reset();
+}
+
+void testNoteStack::emptyState()
+{
+    frmNoteStack &stack = m_fixture->stack;
+    for (const char *name : {"imgDelete", "imgToDesktop", "imgSettings", "imgAlarm", "imgPassword", "imgMenu"})
+        m_fixture->click(name);
+    QTest::qWait(250); // longer than a button is seen pressed
+    QTest::keyClick(&stack, Qt::Key_F2);
+    QTest::keyClick(&stack, Qt::Key_Tab, Qt::ControlModifier);
+    stack.TransferAllToDesktop();
+    stack.DeleteThisNote(-1);
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+    QCOMPARE(m_fixture->captions(), QStringList(QString()));
+    QVERIFY(stack.NumOfQuillets() == 1 && stack.noteCount() == 0 && m_fixture->program.forms.notes().empty());
+    const auto &empty = NoteFixture::control<QLabel>(stack, "lblEmpty");
+    QVERIFY(empty.isVisible() && empty.text() == u"NoteStack is empty");
+    m_fixture->click("imgAdd");
+    QTRY_COMPARE(m_fixture->captions(), QStringList(u"1"_s));
+    QVERIFY(stack.NumOfQuillets() == 1 && stack.noteCount() == 1 && !empty.isVisible());
+}
+
+void testNoteStack::deletes_data()
+{
+    QTest::addColumn<QStringList>("before");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<int>("chosen");
+    const QStringList four{u"a"_s, u"b"_s, u"c"_s, u"d"_s};
+    QTest::newRow("first") << four << 0 << Answer::Ok << 0;
+    QTest::newRow("middle") << four << 1 << Answer::Ok << 1;
+    QTest::newRow("last") << four << 3 << Answer::Ok << 2;
+    QTest::newRow("only") << QStringList(u"a"_s) << 0 << Answer::Ok << 0;
+    QTest::newRow("cancelled") << four << 1 << Answer::Cancel << 1;
+}
+
+void testNoteStack::deletes()
+{
+    QFETCH(QStringList, before);
+    QFETCH(int, index);
+    QFETCH(Answer, answer);
+    m_fixture->addAll(before);
+    modForms::SaveAllNotes(m_fixture->program);
+    m_fixture->tabs.setCurrentIndex(index);
+    m_fixture->test.prompts.expect(answer);
+    m_fixture->choose("mnuDelete");
+    QCOMPARE(m_fixture->test.prompts.last.text, u"Delete note '%1' ?"_s.arg(before[index]));
+    QStringList left = before;
+    if (answer == Answer::Ok)
+        left.removeAt(index);
+    QTEST(m_fixture->tabs.currentIndex(), "chosen");
+    QCOMPARE(m_fixture->stack.noteCount(), int(left.size()));
+    QStringList stored;
+    for (const clsNoteProps &note : m_fixture->stored())
+        stored.prepend(note.Data);
+    QCOMPARE(stored, left);
+    NoteFixture::deleteUnloaded();
+    QCOMPARE(m_fixture->captions(), left.isEmpty() ? QStringList(QString()) : left);
+    for (int i = 0; i < left.size(); ++i)
+        QCOMPARE(NoteFixture::control<QLabel>(m_fixture->stack, qPrintable(u"lblDisplay(%1)"_s.arg(i))).text(), left[i]);
+}
+
+void testNoteStack::captions_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("ampersands") << u"&a & b && c&"_s << true;
+    QTest::newRow("blanks") << u"   "_s << true;
+    QTest::newRow("right to left") << u"\u05E9\u05DC\u05D5\u05DD"_s << true;
+    QTest::newRow("markup") << u"<b>x</b>"_s << true;
+    QTest::newRow("combining") << u"e"_s + QString(3000, QChar(0x0301)) << false;
+    QTest::newRow("emoji") << u"\U0001F600"_s.repeated(400) << false;
+    QTest::newRow("200 000 characters") << QString(200'000, u'W') << false;
+}
+
+void testNoteStack::captions()
+{
+    QFETCH(QString, title);
+    QFETCH(bool, fits);
+    clsNoteProps note = m_fixture->record(u"text"_s);
+    note.TitleBarTitle = title;
+    m_fixture->add(note);
+    const QString caption = m_fixture->tabs.caption(0);
+    if (fits)
+        QCOMPARE(caption, title);
+    QVERIFY(fits || (caption.endsWith(u"...") && title.startsWith(caption.chopped(3)) && caption.isValidUtf16()));
+    QVERIFY(m_fixture->tabs.fontMetrics().horizontalAdvance(caption) <= NoteTabs::widestCaption());
+    QVERIFY(m_fixture->tabs.tabToolTip(0).contains(title.left(1000).toHtmlEscaped().replace(u"&amp;"_s, u"&"_s)));
+    m_fixture->stack.grab();
+}
+
+void testNoteStack::leavingCommits_data()
+{
+    QTest::addColumn<Act>("leave");
+    const auto row = [](const char *name, Act leave) { QTest::newRow(name) << leave; };
+    row("other tab", [](StackFixture &f) { f.tabs.setCurrentIndex(0); });
+    row("keyboard", [](StackFixture &f) { QTest::keyClick(&f.stack, Qt::Key_PageUp, Qt::ControlModifier); });
+    row("new note", [](StackFixture &f) { f.add(f.record(u"new"_s)); });
+    row("save", [](StackFixture &f) { modForms::SaveAllNotes(f.program); });
+    row("desktop", [](StackFixture &f) { f.choose("mnuDesktop1"); });
+    row("lock", [](StackFixture &f) { f.choose("mnuLocked"); });
+    row("close", [](StackFixture &f) { f.stack.close(); });
+}
+
+void testNoteStack::leavingCommits()
+{
+    QFETCH(Act, leave);
+    m_fixture->addAll({u"other"_s, u"old"_s});
+    const clsNoteProps before = m_fixture->stored().empty() ? clsNoteProps() : clsNoteProps();
+    m_fixture->click("lblDisplay(1)");
+    m_fixture->type("txtText(1)", u"typed\nlines"_s);
+    leave(*m_fixture);
+    QCOMPARE(m_fixture->program.forms.holderOf(2)->recordOf(2)->Data, u"typed\r\nlines"_s);
+    QCOMPARE(m_fixture->program.forms.holderOf(1)->recordOf(1)->Data, u"other"_s);
+}
