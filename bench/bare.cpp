@@ -24,6 +24,7 @@ int main(int argc, char *argv[])
     for (int i = 0; i < count; ++i) {
         auto window = std::make_unique<QWidget>(nullptr, Qt::Window | Qt::FramelessWindowHint);
         window->setAttribute(Qt::WA_ShowWithoutActivating);
+        window->setWindowTitle(QString::number(i + 1));
         for (int child = 0; child < ChildrenInARow * ChildrenInARow; ++child) {
             auto *label = new QLabel(QString::number(child), window.get());
             label->setGeometry(

@@ -53,8 +53,9 @@ def cpu(pid):
 
 
 def switches(pid):
-    return sum(field(f"/proc/{pid}/task/{task}/status", name)
-               for task in os.listdir(f"/proc/{pid}/task") for name in ("voluntary_ctxt", "nonvoluntary_ctxt"))
+    """By thread."""
+    return {task: field(f"/proc/{pid}/task/{task}/status", "voluntary_ctxt")
+            + field(f"/proc/{pid}/task/{task}/status", "nonvoluntary_ctxt") for task in os.listdir(f"/proc/{pid}/task")}
 
 
 def mapped(display, pid):
@@ -75,9 +76,10 @@ def measure(display, command, notes, windows, idle=False):
             wall = time.monotonic() - begin
             time.sleep(SETTLE)
             if idle:
+                time.sleep(IDLE)  # Threads that serve the start have ended then.
                 before = switches(process.pid)
                 time.sleep(IDLE)
-                return switches(process.pid) - before
+                return sum(count - before.get(task, 0) for task, count in switches(process.pid).items())
             return cpu(process.pid), wall, field(f"/proc/{process.pid}/smaps_rollup", "Pss:") / 1024
         finally:
             process.kill()

@@ -53,11 +53,11 @@ private:
     Program &m_program;
     clsAlarmProps m_alarm;
     bool m_accepted = false;
-    CheckRow *m_on;      // chkAlarm
-    QFrame *m_frame;           // fraAlarmIn
-    QDateEdit *m_date;         // dtpAlarmDate
-    QTimeEdit *m_time;         // dtpAlarmTime
-    CheckRow *m_flash;   // chkFlash
-    CheckRow *m_soundOn; // chkSoundFile
-    QPushButton *m_soundFile;  // cmdSoundFile
+    CheckRow *m_on;           // chkAlarm
+    QFrame *m_frame;          // fraAlarmIn
+    QDateEdit *m_date;        // dtpAlarmDate
+    QTimeEdit *m_time;        // dtpAlarmTime
+    CheckRow *m_flash;        // chkFlash
+    CheckRow *m_soundOn;      // chkSoundFile
+    QPushButton *m_soundFile; // cmdSoundFile
 };

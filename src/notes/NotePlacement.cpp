@@ -6,7 +6,8 @@
 
 #include <cmath>
 
-namespace {
+namespace
+{
 
 constexpr int CascadeOffset = 24;
 constexpr int CascadeLength = 12;
@@ -45,7 +46,8 @@ bool strictlyInside(const QRect &geometry, const QRect &whole)
 const QRect &nearestScreen(QPoint to, const std::vector<QRect> &screens)
 {
     const auto distance = [to](const QRect &screen) {
-        const QPoint inside(std::clamp(to.x(), screen.left(), screen.right()), std::clamp(to.y(), screen.top(), screen.bottom()));
+        const QPoint inside(std::clamp(to.x(), screen.left(), screen.right()),
+                            std::clamp(to.y(), screen.top(), screen.bottom()));
         return (to - inside).manhattanLength();
     };
     return *std::min_element(screens.begin(), screens.end(),
@@ -56,7 +58,8 @@ QRect broughtInto(QRect geometry, const QRect &screen)
 {
     const int right = qMax(screen.left() + 1, screen.left() + screen.width() - geometry.width() - 1);
     const int bottom = qMax(screen.top() + 1, screen.top() + screen.height() - geometry.height() - 1);
-    geometry.moveTo(std::clamp(geometry.left(), screen.left() + 1, right), std::clamp(geometry.top(), screen.top() + 1, bottom));
+    geometry.moveTo(std::clamp(geometry.left(), screen.left() + 1, right),
+                    std::clamp(geometry.top(), screen.top() + 1, bottom));
     return geometry;
 }
 

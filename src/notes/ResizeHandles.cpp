@@ -4,7 +4,8 @@
 
 #include <QMouseEvent>
 
-namespace {
+namespace
+{
 
 constexpr int Edge = 4; ///< Thickness of an L-shaped corner.
 
@@ -17,11 +18,16 @@ QRegion edgesOfCorner(const QRect &rect, WindowDrag::HitTest held)
 {
     const QRect all(QPoint(0, 0), rect.size());
     switch (held) {
-    case BottomRight: return QRegion(all) - QRegion(all.adjusted(0, 0, -Edge, -Edge));
-    case BottomLeft: return QRegion(all) - QRegion(all.adjusted(Edge, 0, 0, -Edge));
-    case TopLeft: return QRegion(all) - QRegion(all.adjusted(Edge, Edge, 0, 0));
-    case TopRight: return QRegion(all) - QRegion(all.adjusted(0, Edge, -Edge, 0));
-    default: return all;
+    case BottomRight:
+        return QRegion(all) - QRegion(all.adjusted(0, 0, -Edge, -Edge));
+    case BottomLeft:
+        return QRegion(all) - QRegion(all.adjusted(Edge, 0, 0, -Edge));
+    case TopLeft:
+        return QRegion(all) - QRegion(all.adjusted(Edge, Edge, 0, 0));
+    case TopRight:
+        return QRegion(all) - QRegion(all.adjusted(0, Edge, -Edge, 0));
+    default:
+        return all;
     }
 }
 

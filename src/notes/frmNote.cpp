@@ -20,13 +20,15 @@
 
 using namespace std::chrono_literals;
 
-namespace {
+namespace
+{
 constexpr auto PlaceSettles = 300ms;
 } // namespace
 
 frmNote::frmNote(Program &program)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), Form(program.forms, formNames::Note.toString()),
-      m_program(program), m_alarm(program, [this] { return isUnloaded() ? nullptr : &m_record; }), m_drag(*this), m_toolbar(new NoteToolbar(program.pictures(), this)), m_body(new NoteBody(this)),
+      m_program(program), m_alarm(program, [this] { return isUnloaded() ? nullptr : &m_record; }), m_drag(*this),
+      m_toolbar(new NoteToolbar(program.pictures(), this)), m_body(new NoteBody(this)),
       m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_drag))
 {
     setObjectName(formName());
@@ -72,7 +74,8 @@ void frmNote::connectParts()
     connect(m_menu, &PictureButton::commanded, this, &frmNote::menuCommanded);
     connect(m_minimize, &PictureButton::commanded, this, &frmNote::deleteNote);
     connect(m_exit, &PictureButton::commanded, this, &frmNote::exitCommanded);
-    connect(m_toolbar, &NoteToolbar::commanded, this, &frmNote::commanded);
+    connect(m_toolbar, &NoteToolbar::commanded, this,
+            [this](int index) { commanded(static_cast<NoteToolbar::Command>(index)); });
     connect(m_toolbar, &NoteToolbar::clickedElsewhere, this, &frmNote::EndTextEditing);
     connect(m_body, &NoteBody::textPressed, this, [this](Qt::MouseButton button, QPoint at) {
         if (button == Qt::LeftButton)

@@ -25,7 +25,12 @@ class Program;
 class ResizeHandles;
 
 /// How a note came to be; decides what the factory stamps into its record.
-enum class NoteCreateMode { New = 0, Move = 1, Load = 2 };
+enum class NoteCreateMode
+{
+    New = 0,
+    Move = 1,
+    Load = 2
+};
 
 /// A note on the desktop: a borderless window that owns its record, shows it, and writes every change of place, size
 /// and text back into it. It leaves saving to the shared helpers and the time and the user to what it was given.
@@ -146,7 +151,7 @@ private:
     NoteBody *m_body = nullptr;
     LockOverlay *m_overlay = nullptr;
     ResizeHandles *m_handles = nullptr;
-    QTimer m_placeTimer; ///< Waits until a window that is being moved has come to rest.
+    QTimer m_placeTimer;             ///< Waits until a window that is being moved has come to rest.
     NoteMenu *m_noteMenu = nullptr;  // mnuPopupIco
     NoteMenu *m_shortMenu = nullptr; // mnuPopup
     bool m_menuOpen = false;

@@ -22,7 +22,8 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 
-namespace {
+namespace
+{
 
 using Kind = MenuEntry::Kind;
 using enum NoteCommand;
@@ -77,7 +78,8 @@ void frmNote::menuCommanded()
     if (m_noteMenu == nullptr) {
         m_noteMenu = makeMenu(QStringLiteral("mnuPopupIco"), LongMenu);
         // The press that closes the menu comes to the picture before this does, and finds the menu open.
-        connect(m_noteMenu, &QMenu::aboutToHide, this, [this] { m_menuOpen = false; }, Qt::QueuedConnection);
+        connect(
+            m_noteMenu, &QMenu::aboutToHide, this, [this] { m_menuOpen = false; }, Qt::QueuedConnection);
     }
     showMenuState();
     m_menuOpen = true;
@@ -140,26 +142,49 @@ void frmNote::run(NoteCommand command)
 {
     m_menuOpen = false;
     switch (command) {
-    case Move: exitCommanded(); break;
-    case Print: print(); break;
-    case Title: SetFocusToTitleBar(); break;
-    case Toolbar: ToggleToolbar(); break;
-    case Scrolled: scrollStep(); break;
-    case OnTop: toggleOnTop(); break;
-    case Locked: m_locked ? unlock() : lockform(); break;
+    case Move:
+        exitCommanded();
+        break;
+    case Print:
+        print();
+        break;
+    case Title:
+        SetFocusToTitleBar();
+        break;
+    case Toolbar:
+        ToggleToolbar();
+        break;
+    case Scrolled:
+        scrollStep();
+        break;
+    case OnTop:
+        toggleOnTop();
+        break;
+    case Locked:
+        m_locked ? unlock() : lockform();
+        break;
     case Copy:
         if (!m_locked)
             noteClipboard::copy(m_record.Data);
         break;
-    case Paste: paste(); break;
-    case Delete: deleteNote(); break;
-    case Help: modHelp::ShowHelp(m_program); break;
+    case Paste:
+        paste();
+        break;
+    case Delete:
+        deleteNote();
+        break;
+    case Help:
+        modHelp::ShowHelp(m_program);
+        break;
     case Password:
     case Alarm:
-    case Settings: openDialog(command); break;
+    case Settings:
+        openDialog(command);
+        break;
     case Send:
     case Email:
-    case None: break;
+    case None:
+        break;
     }
 }
 
@@ -209,9 +234,9 @@ void frmNote::print()
 void frmNote::exitCommanded()
 {
     const QPointer<frmNote> self = this;
-    const noteLocks::Refusal refusal{tr("Invalid authentication.  Quillet minimization failed."), tr("Minimization failed")};
-    if (!m_locked &&
-        noteLocks::checkReadOnly(m_program, m_record, noteLocks::readOnlyDescription(), refusal, this) &&
+    const noteLocks::Refusal refusal{tr("Invalid authentication.  Quillet minimization failed."),
+                                     tr("Minimization failed")};
+    if (!m_locked && noteLocks::checkReadOnly(m_program, m_record, noteLocks::readOnlyDescription(), refusal, this) &&
         self != nullptr && !isUnloaded())
         ToTheNoteStack();
 }
@@ -237,8 +262,8 @@ void frmNote::deleteNote()
     if (!noteTitles::confirmDeletion(m_program, m_record, this) || self == nullptr || isUnloaded())
         return;
     if (m_locked) {
-        m_program.prompts().tell({tr("You cannot delete a Quillet that is locked."), tr("Deletion Error"), Message::Icon::Critical},
-                                 this);
+        m_program.prompts().tell(
+            {tr("You cannot delete a Quillet that is locked."), tr("Deletion Error"), Message::Icon::Critical}, this);
         return;
     }
     const noteLocks::Refusal refusal{tr("Invalid authentication.  Quillet deletion failed."), tr("Deletion failed")};

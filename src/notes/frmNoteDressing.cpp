@@ -69,8 +69,8 @@ void frmNote::UpdateToolbarIcons()
 void frmNote::SetFocusToTitleBar()
 {
     const QPointer<frmNote> self = this;
-    if (m_locked || !noteLocks::checkTitleEditing(m_program, m_record, shortTitle(), this) || self == nullptr || m_locked ||
-        isUnloaded())
+    if (m_locked || !noteLocks::checkTitleEditing(m_program, m_record, shortTitle(), this) || self == nullptr ||
+        m_locked || isUnloaded())
         return;
     beginTitleEditing();
 }

@@ -149,8 +149,8 @@ void frmNote::scrollStep()
     const Twips &twips = m_program.twips;
     m_body->commit();
     m_record.FrmScrolledOn = up;
-    m_drag.setLimits(up ? QSize(NoteLayout::smallestSize().width(), NoteLayout::rolledHeight()) : NoteLayout::smallestSize(),
-                     up);
+    m_drag.setLimits(
+        up ? QSize(NoteLayout::smallestSize().width(), NoteLayout::rolledHeight()) : NoteLayout::smallestSize(), up);
     m_handles->setMode(up, m_locked);
     if (up) {
         if (isReady())
@@ -182,5 +182,6 @@ void frmNote::ToggleToolbar()
 void frmNote::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    QMetaObject::invokeMethod(this, [this] { windowStacking::skipTaskBar(*this); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { windowStacking::skipTaskBar(*this); }, Qt::QueuedConnection);
 }

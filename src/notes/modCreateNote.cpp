@@ -13,8 +13,10 @@
 #include <QLocale>
 #include <QScreen>
 
-namespace modCreateNote {
-namespace {
+namespace modCreateNote
+{
+namespace
+{
 
 constexpr QPoint CascadeMargin(48, 48);
 
@@ -109,7 +111,8 @@ qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteC
         tellLimit(program);
         return 0;
     }
-    return toNoteStack ? createInStack(program, std::move(record), mode) : createOnDesktop(program, std::move(record), mode);
+    return toNoteStack ? createInStack(program, std::move(record), mode)
+                       : createOnDesktop(program, std::move(record), mode);
 }
 
 /// The note changes its place in the data file in one step and is never absent from it.

@@ -7,7 +7,8 @@
 class Program;
 
 /// The one place where live notes come from.
-namespace modCreateNote {
+namespace modCreateNote
+{
 
 inline constexpr qint32 MostNotes = 100; ///< Created or restored in one run.
 

@@ -8,7 +8,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
-namespace {
+namespace
+{
 
 constexpr int TabHeight = 26;
 constexpr int WidestCaption = 130;

@@ -4,7 +4,8 @@
 
 #include <QPainter>
 
-namespace {
+namespace
+{
 constexpr int Outline = 1;
 constexpr int BodySide = 2;
 } // namespace

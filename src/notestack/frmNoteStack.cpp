@@ -18,7 +18,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace {
+namespace
+{
 
 constexpr QSize MinimumDesign(2500, 2000); // twips
 constexpr QSize UsualDesign(5400, 4200);
@@ -75,10 +76,6 @@ void frmNoteStack::makeParts()
     m_exit->setPictures(QStringLiteral("minimizeup.gif"), QStringLiteral("closeactive.gif"));
     m_exit->setCaption(tr("Delete"));
     m_toolbar = new StackToolbar(pictures, m_page);
-    for (const auto command : {StackToolbar::Command::Email, StackToolbar::Command::Send}) {
-        m_toolbar->button(command).setEnabled(false);
-        m_toolbar->button(command).setToolTip(tr("Not in this version yet."));
-    }
     m_overlay = new LockOverlay(m_page);
     m_empty = new QWidget(m_page);
     m_empty->setObjectName(QStringLiteral("fraEmpty"));
@@ -102,7 +99,8 @@ void frmNoteStack::connectParts()
         if (const StackNote *note = chosen())
             deleteNote(note->record.Tag);
     });
-    connect(m_toolbar, &StackToolbar::commanded, this, &frmNoteStack::toolbarCommanded);
+    connect(m_toolbar, &StackToolbar::commanded, this,
+            [this](int index) { toolbarCommanded(static_cast<StackToolbar::Command>(index)); });
     connect(m_toolbar, &StackToolbar::clickedElsewhere, this, &frmNoteStack::TextLostFocus);
     connect(m_overlay, &LockOverlay::clicked, this, &frmNoteStack::unlock);
     connect(m_title, &NoteTitle::edited, this, &frmNoteStack::titleEdited);

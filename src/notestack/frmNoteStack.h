@@ -124,19 +124,19 @@ private:
     Program &m_program;
     std::vector<std::unique_ptr<StackNote>> m_notes;
     WindowDrag m_drag;
-    NoteTabs *m_tabs = nullptr;         // tabNotes
-    QToolButton *m_list = nullptr;      // cmdTabList
-    StackPage *m_page = nullptr;        // fraPage
-    QWidget *m_titleBar = nullptr;      // fraTitleBar
-    NoteTitle *m_title = nullptr;       // lblTitle, txtTitle
-    PictureButton *m_menu = nullptr;    // imgMenu
-    PictureButton *m_exit = nullptr;    // imgExit
-    StackToolbar *m_toolbar = nullptr;  // fraToolBar
-    LockOverlay *m_overlay = nullptr;   // fraPassword
-    QWidget *m_empty = nullptr;         // fraEmpty, lblEmpty
-    QLabel *m_grip = nullptr;           // imgResize
-    NoteMenu *m_noteMenu = nullptr;     // mnuPopup2
-    NoteMenu *m_shortMenu = nullptr;    // mnuPopup
+    NoteTabs *m_tabs = nullptr;        // tabNotes
+    QToolButton *m_list = nullptr;     // cmdTabList
+    StackPage *m_page = nullptr;       // fraPage
+    QWidget *m_titleBar = nullptr;     // fraTitleBar
+    NoteTitle *m_title = nullptr;      // lblTitle, txtTitle
+    PictureButton *m_menu = nullptr;   // imgMenu
+    PictureButton *m_exit = nullptr;   // imgExit
+    StackToolbar *m_toolbar = nullptr; // fraToolBar
+    LockOverlay *m_overlay = nullptr;  // fraPassword
+    QWidget *m_empty = nullptr;        // fraEmpty, lblEmpty
+    QLabel *m_grip = nullptr;          // imgResize
+    NoteMenu *m_noteMenu = nullptr;    // mnuPopup2
+    NoteMenu *m_shortMenu = nullptr;   // mnuPopup
     bool m_menuOpen = false;
     bool m_pressedWhileOpen = false;
     bool m_closing = false;

@@ -22,7 +22,8 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 
-namespace {
+namespace
+{
 
 using Kind = MenuEntry::Kind;
 using enum NoteCommand;
@@ -62,18 +63,37 @@ constexpr std::array Guarded{Email, Send, Settings, Password, Alarm, Move, Delet
 
 void frmNoteStack::toolbarCommanded(StackToolbar::Command command)
 {
-    using enum StackToolbar::Command;
     switch (command) {
-    case StackToolbar::Command::Add: addNew(); break;
-    case StackToolbar::Command::Hide: hideStack(); break;
-    case StackToolbar::Command::Help: modHelp::ShowHelp(m_program); break;
-    case StackToolbar::Command::Delete: run(NoteCommand::Delete); break;
-    case StackToolbar::Command::ToDesktop: run(NoteCommand::Move); break;
-    case StackToolbar::Command::Settings: run(NoteCommand::Settings); break;
-    case StackToolbar::Command::Email: run(NoteCommand::Email); break;
-    case StackToolbar::Command::Send: run(NoteCommand::Send); break;
-    case StackToolbar::Command::Alarm: run(NoteCommand::Alarm); break;
-    case StackToolbar::Command::Password: run(NoteCommand::Password); break;
+    case StackToolbar::Command::Add:
+        addNew();
+        break;
+    case StackToolbar::Command::Hide:
+        hideStack();
+        break;
+    case StackToolbar::Command::Help:
+        modHelp::ShowHelp(m_program);
+        break;
+    case StackToolbar::Command::Delete:
+        run(NoteCommand::Delete);
+        break;
+    case StackToolbar::Command::ToDesktop:
+        run(NoteCommand::Move);
+        break;
+    case StackToolbar::Command::Settings:
+        run(NoteCommand::Settings);
+        break;
+    case StackToolbar::Command::Email:
+        run(NoteCommand::Email);
+        break;
+    case StackToolbar::Command::Send:
+        run(NoteCommand::Send);
+        break;
+    case StackToolbar::Command::Alarm:
+        run(NoteCommand::Alarm);
+        break;
+    case StackToolbar::Command::Password:
+        run(NoteCommand::Password);
+        break;
     }
 }
 
@@ -103,26 +123,41 @@ void frmNoteStack::run(NoteCommand command)
 void frmNoteStack::runOn(StackNote &note, NoteCommand command)
 {
     switch (command) {
-    case Move: toDesktop(note.record.Tag); break;
-    case Print: print(note); break;
-    case Title: editTitle(); break;
-    case Locked: note.locked ? unlock() : ShowLockLayer(note, true); break;
+    case Move:
+        toDesktop(note.record.Tag);
+        break;
+    case Print:
+        print(note);
+        break;
+    case Title:
+        editTitle();
+        break;
+    case Locked:
+        note.locked ? unlock() : ShowLockLayer(note, true);
+        break;
     case Copy:
         if (!note.locked)
             noteClipboard::copy(note.record.Data);
         break;
-    case Paste: paste(note); break;
-    case Delete: deleteNote(note.record.Tag); break;
+    case Paste:
+        paste(note);
+        break;
+    case Delete:
+        deleteNote(note.record.Tag);
+        break;
     case Password:
     case Alarm:
-    case Settings: openDialog(note, command); break;
+    case Settings:
+        openDialog(note, command);
+        break;
     case Send:
     case Email:
     case Help:
     case Toolbar:
     case Scrolled:
     case OnTop:
-    case None: break;
+    case None:
+        break;
     }
 }
 
@@ -165,7 +200,8 @@ void frmNoteStack::menuCommanded()
         return;
     if (m_noteMenu == nullptr) {
         m_noteMenu = makeMenu(QStringLiteral("mnuPopup2"), LongMenu);
-        connect(m_noteMenu, &QMenu::aboutToHide, this, [this] { m_menuOpen = false; }, Qt::QueuedConnection);
+        connect(
+            m_noteMenu, &QMenu::aboutToHide, this, [this] { m_menuOpen = false; }, Qt::QueuedConnection);
     }
     if (!note->locked)
         note->body->commit();
@@ -267,8 +303,8 @@ void frmNoteStack::deleteNote(qint32 tag)
         return;
     const StackNote &note = *m_notes[*index];
     if (note.locked) {
-        m_program.prompts().tell({tr("You cannot delete a note that is locked"), tr("Deletion Error"), Message::Icon::Critical},
-                                 this);
+        m_program.prompts().tell(
+            {tr("You cannot delete a note that is locked"), tr("Deletion Error"), Message::Icon::Critical}, this);
         return;
     }
     const noteLocks::Refusal refusal{tr("Authentication invalid.  Deletion failed."), tr("Deletion Failed")};

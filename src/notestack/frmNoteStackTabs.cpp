@@ -19,8 +19,8 @@
 
 std::optional<size_t> frmNoteStack::indexOf(qint32 tag) const
 {
-    const auto found = std::find_if(m_notes.begin(), m_notes.end(),
-                                    [tag](const auto &note) { return note->record.Tag == tag; });
+    const auto found =
+        std::find_if(m_notes.begin(), m_notes.end(), [tag](const auto &note) { return note->record.Tag == tag; });
     return found == m_notes.end() ? std::nullopt : std::optional(static_cast<size_t>(found - m_notes.begin()));
 }
 
@@ -195,7 +195,8 @@ void frmNoteStack::dressPage(const StackNote &note)
 void frmNoteStack::showEmpty()
 {
     StackNote none;
-    none.ink = NoteInk::from(colours::toLong(palette().color(QPalette::Base)), colours::toLong(palette().color(QPalette::Text)));
+    none.ink = NoteInk::from(colours::toLong(palette().color(QPalette::Base)),
+                             colours::toLong(palette().color(QPalette::Text)));
     dressPage(none);
     m_tabs->setEmpty(0);
     m_title->setTitle(QStringLiteral("Quillets"));

@@ -7,8 +7,10 @@
 
 #include <array>
 
-namespace colours {
-namespace {
+namespace colours
+{
+namespace
+{
 
 constexpr quint32 SystemBit = 0x80000000U;
 

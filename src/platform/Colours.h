@@ -6,7 +6,8 @@
 
 /// Colours as records keep them: a 32-bit value, either 0x00BBGGRR or, with the top bit set, 0x80000000 plus the
 /// index of a system colour, which follows the desktop's palette.
-namespace colours {
+namespace colours
+{
 
 /// Unknown system indices give the text colour of the palette.
 QColor fromLong(qint32 value);

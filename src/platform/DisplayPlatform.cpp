@@ -4,8 +4,10 @@
 
 #include <QGuiApplication>
 
-namespace displayPlatform {
-namespace {
+namespace displayPlatform
+{
+namespace
+{
 
 constexpr char PlatformVariable[] = "QT_QPA_PLATFORM";
 bool preferenceSet = false;

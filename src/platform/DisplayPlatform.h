@@ -3,7 +3,8 @@
 #pragma once
 
 /// Which window system the program talks to.
-namespace displayPlatform {
+namespace displayPlatform
+{
 
 /// Before the application object is made: in a Wayland session that offers X11 too, X11 is asked for, because only
 /// there places, staying on top and moving by hand work. A platform that the user has set is left alone.

@@ -11,7 +11,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 constexpr std::array Watched{SIGTERM, SIGHUP, SIGINT};
 int writeEnd = -1;
@@ -35,7 +36,8 @@ EndSignals::EndSignals(QObject *parent) : QObject(parent)
     auto *notifier = new QSocketNotifier(m_readEnd, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] {
         char byte = 0;
-        while (::read(m_readEnd, &byte, 1) > 0) {}
+        while (::read(m_readEnd, &byte, 1) > 0) {
+        }
         emit endRequested();
     });
     struct sigaction action = {};

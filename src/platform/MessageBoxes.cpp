@@ -6,14 +6,18 @@
 
 #include <QMessageBox>
 
-namespace {
+namespace
+{
 
 QMessageBox::Icon iconOf(Message::Icon icon)
 {
     switch (icon) {
-    case Message::Icon::Exclamation: return QMessageBox::Warning;
-    case Message::Icon::Critical: return QMessageBox::Critical;
-    case Message::Icon::None: break;
+    case Message::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Message::Icon::Critical:
+        return QMessageBox::Critical;
+    case Message::Icon::None:
+        break;
     }
     return QMessageBox::NoIcon;
 }
@@ -29,7 +33,8 @@ Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
     box.setText(message.text);
     box.setIcon(iconOf(message.icon));
     const bool cancel = message.buttons == Message::Buttons::OkCancel;
-    box.setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box.setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel
+                                  : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(QMessageBox::Ok);
     windowStacking::keepAboveNotes(box);
     return box.exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;

@@ -9,8 +9,17 @@ class QWidget;
 /// What a message box shows. The caption is the window's title.
 struct Message
 {
-    enum class Icon { None, Exclamation, Critical };
-    enum class Buttons { Ok, OkCancel };
+    enum class Icon
+    {
+        None,
+        Exclamation,
+        Critical
+    };
+    enum class Buttons
+    {
+        Ok,
+        OkCancel
+    };
 
     QString text;
     QString caption = QStringLiteral("Quillets");
@@ -25,7 +34,11 @@ struct Message
 class Prompts
 {
 public:
-    enum class Answer { Ok, Cancel };
+    enum class Answer
+    {
+        Ok,
+        Cancel
+    };
 
     Prompts() = default;
     Prompts(const Prompts &) = delete;

@@ -5,7 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
+namespace
+{
 constexpr double TwipsPerInch = 1440.0;
 constexpr double DesignTwipsPerPixel = 12.0;
 constexpr double FarthestPixel = 1'000'000.0;

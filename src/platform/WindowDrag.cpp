@@ -6,21 +6,31 @@
 
 #include <QWindow>
 
-namespace {
+namespace
+{
 
 Qt::Edges edgesOf(WindowDrag::HitTest held)
 {
     using enum WindowDrag::HitTest;
     switch (held) {
-    case Left: return Qt::LeftEdge;
-    case Right: return Qt::RightEdge;
-    case Top: return Qt::TopEdge;
-    case TopLeft: return Qt::TopEdge | Qt::LeftEdge;
-    case TopRight: return Qt::TopEdge | Qt::RightEdge;
-    case Bottom: return Qt::BottomEdge;
-    case BottomLeft: return Qt::BottomEdge | Qt::LeftEdge;
-    case BottomRight: return Qt::BottomEdge | Qt::RightEdge;
-    case Caption: break;
+    case Left:
+        return Qt::LeftEdge;
+    case Right:
+        return Qt::RightEdge;
+    case Top:
+        return Qt::TopEdge;
+    case TopLeft:
+        return Qt::TopEdge | Qt::LeftEdge;
+    case TopRight:
+        return Qt::TopEdge | Qt::RightEdge;
+    case Bottom:
+        return Qt::BottomEdge;
+    case BottomLeft:
+        return Qt::BottomEdge | Qt::LeftEdge;
+    case BottomRight:
+        return Qt::BottomEdge | Qt::RightEdge;
+    case Caption:
+        break;
     }
     return {};
 }
@@ -32,14 +42,19 @@ Qt::CursorShape WindowDrag::cursorFor(HitTest held)
     using enum HitTest;
     switch (held) {
     case Left:
-    case Right: return Qt::SizeHorCursor;
+    case Right:
+        return Qt::SizeHorCursor;
     case Top:
-    case Bottom: return Qt::SizeVerCursor;
+    case Bottom:
+        return Qt::SizeVerCursor;
     case TopLeft:
-    case BottomRight: return Qt::SizeFDiagCursor;
+    case BottomRight:
+        return Qt::SizeFDiagCursor;
     case TopRight:
-    case BottomLeft: return Qt::SizeBDiagCursor;
-    case Caption: break;
+    case BottomLeft:
+        return Qt::SizeBDiagCursor;
+    case Caption:
+        break;
     }
     return Qt::ArrowCursor;
 }

@@ -15,7 +15,8 @@ class WindowDrag
 {
 public:
     /// What is held, numbered as window systems number the parts of a window's frame.
-    enum class HitTest {
+    enum class HitTest
+    {
         Caption = 2,
         Left = 10,
         Right = 11,

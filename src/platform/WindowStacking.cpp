@@ -14,8 +14,10 @@
 #include <cstring>
 #endif
 
-namespace windowStacking {
-namespace {
+namespace windowStacking
+{
+namespace
+{
 
 #ifdef QUILLETS_HAS_XCB
 

@@ -5,7 +5,8 @@
 class QWidget;
 
 /// What Qt leaves to the window manager: staying on top, coming to the front, staying out of the task bar.
-namespace windowStacking {
+namespace windowStacking
+{
 
 /// In or out of the band of windows above all others; neither hides the window nor moves the focus.
 void SetWindowOnTop(QWidget &window, bool onTop);

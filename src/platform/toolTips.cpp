@@ -4,8 +4,10 @@
 
 #include <QTextDocument>
 
-namespace toolTips {
-namespace {
+namespace toolTips
+{
+namespace
+{
 constexpr qsizetype Longest = 1000;
 }
 

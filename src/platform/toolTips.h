@@ -5,7 +5,8 @@
 #include <QString>
 
 /// Tooltips of texts that come from notes.
-namespace toolTips {
+namespace toolTips
+{
 
 /// Shown as it stands whatever is in it; only the beginning of a very long text.
 QString plain(const QString &text);

@@ -10,7 +10,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
-namespace noteLocks {
+namespace noteLocks
+{
 
 bool isReadOnly(const clsNoteProps &note)
 {
@@ -60,7 +61,8 @@ bool checkEditing(Program &program, const clsNoteProps &note, QWidget *owner)
                          {failed, QCoreApplication::translate("noteLocks", "Editing failed")}, owner);
 }
 
-namespace {
+namespace
+{
 
 QString quoted(const QString &title)
 {

@@ -10,7 +10,8 @@ class Program;
 class QWidget;
 
 /// What a note's password refuses or asks for, the same wherever the note lives.
-namespace noteLocks {
+namespace noteLocks
+{
 
 /// The note is not to be changed or exported without its password.
 bool isReadOnly(const clsNoteProps &note);

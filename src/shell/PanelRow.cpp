@@ -9,7 +9,8 @@
 
 using namespace std::chrono_literals;
 
-namespace {
+namespace
+{
 
 constexpr int PictureSide = 20;
 constexpr int CaptionGap = 12;
@@ -19,8 +20,8 @@ constexpr qreal CaptionPoints = 9.5;
 } // namespace
 
 PanelRow::PanelRow(const Pictures &pictures, const Names &names, const QString &caption, QWidget *panel)
-    : QAbstractButton(panel), m_pictures(pictures), m_file(QLatin1String(names.file)),
-      m_up(new QLabel(this)), m_down(new QLabel(this)), m_caption(new QLabel(caption, this))
+    : QAbstractButton(panel), m_pictures(pictures), m_file(QLatin1String(names.file)), m_up(new QLabel(this)),
+      m_down(new QLabel(this)), m_caption(new QLabel(caption, this))
 {
     setAccessibleName(caption);
     setFocusPolicy(Qt::StrongFocus);

@@ -19,7 +19,8 @@
 #include <QLabel>
 #include <QMenu>
 
-namespace {
+namespace
+{
 
 constexpr int RowHeight = 30;
 constexpr int RowReach = 10; ///< How far a row begins left of its picture and ends before the panel's edge.
@@ -43,7 +44,9 @@ constexpr std::array<Row, 8> Rows{{
      Qt::Key_V},
     {{"imgDtoNUp", "imgDtoNDown", "lblDtoN", "paneldton"}, QT_TRANSLATE_NOOP("frmMenu", "All to NoteStack"), Qt::Key_A},
     {{"imgNtoDUp", "imgNtoDDown", "lblNtoD", "panelntod"}, QT_TRANSLATE_NOOP("frmMenu", "All to Desktop"), Qt::Key_D},
-    {{"imgSaveUp", "imgSaveDown", "lblSave", "panelsave"}, QT_TRANSLATE_NOOP("frmMenu", "Save All Quillets"), Qt::Key_S},
+    {{"imgSaveUp", "imgSaveDown", "lblSave", "panelsave"},
+     QT_TRANSLATE_NOOP("frmMenu", "Save All Quillets"),
+     Qt::Key_S},
     {{"imgOptionsUp", "imgOptionsDown", "lblOptions", "paneloptions"},
      QT_TRANSLATE_NOOP("frmMenu", "Quillets Options"),
      Qt::Key_O},
@@ -53,8 +56,7 @@ constexpr std::array<Row, 8> Rows{{
 
 } // namespace
 
-frmMenu::frmMenu(Program &program)
-    : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this)
+frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this)
 {
     setObjectName(formName());
     setWindowTitle(tr("Menu - Quillets"));
@@ -165,20 +167,37 @@ void frmMenu::run(Command command)
 void frmMenu::perform(Command command)
 {
     switch (command) {
-    case Command::New: modCreateNote::createNewNote(m_program, false); break;
-    case Command::Save: modForms::SaveAllWithProgress(m_program); break;
-    case Command::Help: modHelp::ShowHelp(m_program); break;
-    case Command::Exit: modInit::ExitProgram(m_program); break;
-    case Command::Show: showMenu(); break;
-    case Command::AllToNoteStack: modForms::TransferAllToNoteStack(m_program); break;
-    case Command::Options: openOptions(); break;
+    case Command::New:
+        modCreateNote::createNewNote(m_program, false);
+        break;
+    case Command::Save:
+        modForms::SaveAllWithProgress(m_program);
+        break;
+    case Command::Help:
+        modHelp::ShowHelp(m_program);
+        break;
+    case Command::Exit:
+        modInit::ExitProgram(m_program);
+        break;
+    case Command::Show:
+        showMenu();
+        break;
+    case Command::AllToNoteStack:
+        modForms::TransferAllToNoteStack(m_program);
+        break;
+    case Command::Options:
+        openOptions();
+        break;
     case Command::NoteStack:
     case Command::AllToDesktop:
         if (Form *stack = m_program.forms.find(formNames::NoteStack))
             command == Command::NoteStack ? stack->showStack() : stack->TransferAllToDesktop();
         break;
-    case Command::About: openAbout(); break;
-    case Command::None: break;
+    case Command::About:
+        openAbout();
+        break;
+    case Command::None:
+        break;
     }
 }
 

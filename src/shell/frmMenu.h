@@ -38,7 +38,20 @@ protected:
 private:
     static constexpr size_t Commands = 8;
 
-    enum class Command { New, NoteStack, AllToNoteStack, AllToDesktop, Save, Options, Help, Exit, About, Show, None };
+    enum class Command
+    {
+        New,
+        NoteStack,
+        AllToNoteStack,
+        AllToDesktop,
+        Save,
+        Options,
+        Help,
+        Exit,
+        About,
+        Show,
+        None
+    };
 
     void makeRows();
     void makeLogo();

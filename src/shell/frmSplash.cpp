@@ -12,7 +12,8 @@
 #include <QPainter>
 #include <QScreen>
 
-namespace {
+namespace
+{
 
 constexpr QSize DesignSize(4500, 3000);
 constexpr int Margin = 28;

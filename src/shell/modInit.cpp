@@ -25,8 +25,10 @@
 
 using namespace std::chrono_literals;
 
-namespace modInit {
-namespace {
+namespace modInit
+{
+namespace
+{
 
 constexpr qint32 DesignBackColor = 0x0000FFFF;
 constexpr qint32 DesignForeColor = static_cast<qint32>(0x80000012);
@@ -49,10 +51,9 @@ void checkFile(Program &program, bool &on, const QString &path, const QString &b
 {
     if (!on || QFileInfo(path).isFile())
         return;
-    program.prompts().tell(
-        {before + path + QStringLiteral(" could not be found.") + u'\n' + disabling, QStringLiteral("File Not Found"),
-         Message::Icon::Critical},
-        nullptr);
+    program.prompts().tell({before + path + QStringLiteral(" could not be found.") + u'\n' + disabling,
+                            QStringLiteral("File Not Found"), Message::Icon::Critical},
+                           nullptr);
     on = false;
 }
 
@@ -165,9 +166,9 @@ void restoreNotes(Program &program, frmSplash *splash)
         if (shown != nullptr && !shown->isUnloaded())
             shown->setStatus(QStringLiteral("Loading previously saved data ... (%1 of %2)").arg(k).arg(n));
     };
-    const LoadReport report =
-        modFileIO::LoadDataFile(program.file, program.NoteTemplate, modCreateNote::MostNotes - program.NoteCounter, create,
-                                tell, [] { modTimers::Wait(BeforeRestore); }, program.clock().now());
+    const LoadReport report = modFileIO::LoadDataFile(
+        program.file, program.NoteTemplate, modCreateNote::MostNotes - program.NoteCounter, create, tell,
+        [] { modTimers::Wait(BeforeRestore); }, program.clock().now());
     // Alarms that came due meanwhile have waited for the end of the load.
     for (Form *form : program.forms.loaded())
         form->ResetAlarms();
@@ -188,8 +189,9 @@ void ExitProgram(Program &program)
     if (modForms::hasUnsavedNotes(program)) {
         const QString text = QCoreApplication::translate(
             "modInit", "Some changes could not be saved and will be lost.\nEnd the program all the same?");
-        if (program.prompts().ask({text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel},
-                                  panel != nullptr ? panel->window() : nullptr) != Prompts::Answer::Ok)
+        if (program.prompts().ask(
+                {text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel},
+                panel != nullptr ? panel->window() : nullptr) != Prompts::Answer::Ok)
             return;
     }
     program.Exiting = true;
@@ -212,8 +214,10 @@ int Main(int argc, char *argv[])
         return 1;
     }
     const ProgramPaths paths = ProgramPaths::under(QCoreApplication::applicationDirPath(), QDir::currentPath());
-    Services services{std::make_unique<SystemClock>(), std::make_unique<MessageBoxes>(), std::make_unique<DesktopChoosers>(),
-                      std::make_unique<SystemPrinting>(), std::make_unique<DesktopBrowser>(), std::make_unique<WaveSound>(),                       Pictures(paths.ImagesFolder)};
+    Services services{std::make_unique<SystemClock>(),     std::make_unique<MessageBoxes>(),
+                      std::make_unique<DesktopChoosers>(), std::make_unique<SystemPrinting>(),
+                      std::make_unique<DesktopBrowser>(),  std::make_unique<WaveSound>(),
+                      Pictures(paths.ImagesFolder)};
     Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
     if (!checkComponents(program))
         return 1;

@@ -7,7 +7,8 @@
 class frmSplash;
 
 /// Start-up and shut-down.
-namespace modInit {
+namespace modInit
+{
 
 /// The process from its entry to its end; the result is the exit code.
 int Main(int argc, char *argv[]);

@@ -76,8 +76,6 @@ class testAlarmDialog final : public QObject
 
 private slots:
     void init() { failOnWarnings(); }
-    void showsTheRecord();
-    void alarmOffShowsThePresent();
     void newAlarmNeedsTheFuture();
     void soundNeedsAFile();
     void okGivesTheAlarmBack();
@@ -86,33 +84,8 @@ private slots:
     void impossibleDateIsShownAsNearest();
     void soundFiles_data();
     void soundFiles();
-    void longPathsAreShortened();
     void keyboard();
-    void labelsToggle();
 };
-
-void testAlarmDialog::showsTheRecord()
-{
-    Opened opened(alarmOfTomorrow());
-    QCOMPARE(opened.dialog.windowTitle(), u"This note's alarm settings"_s);
-    QVERIFY(opened.box("chkAlarm")->isChecked() && opened.box("chkFlash")->isChecked());
-    QVERIFY(!opened.box("chkSoundFile")->isChecked());
-    QCOMPARE(opened.date()->date(), QDate(2026, 3, 2));
-    QCOMPARE(opened.time()->time(), QTime(8, 0));
-    QCOMPARE(opened.button("cmdSoundFile")->text(), u"Choose file"_s);
-}
-
-void testAlarmDialog::alarmOffShowsThePresent()
-{
-    clsNoteProps record = alarmOfTomorrow();
-    record.AlarmOn = false;
-    Opened opened(record);
-    QCOMPARE(QDateTime(opened.date()->date(), opened.time()->time()), Noon);
-    for (const char *name : {"dtpAlarmDate", "dtpAlarmTime", "lblFlash", "chkSoundFile", "cmdSoundFile"})
-        QVERIFY2(!opened.find<QWidget>(name)->isEnabled(), name);
-    opened.box("chkAlarm")->click();
-    QVERIFY(opened.find<QWidget>("fraAlarmIn")->isEnabled() && opened.button("cmdSoundFile")->isEnabled());
-}
 
 void testAlarmDialog::newAlarmNeedsTheFuture()
 {
@@ -232,17 +205,6 @@ void testAlarmDialog::soundFiles()
     QCOMPARE(caption, opened.result().SoundFile.isEmpty() ? u"Choose file"_s : opened.result().SoundFile);
 }
 
-void testAlarmDialog::longPathsAreShortened()
-{
-    clsNoteProps record = alarmOfTomorrow();
-    record.SoundFile = u"<b>\n"_s + QString(2'000'000, u'w') + u".wav"_s;
-    Opened opened(record);
-    auto *button = opened.button("cmdSoundFile");
-    QVERIFY(button->text().endsWith(u"..."_s) && !button->text().contains(u'\n'));
-    QVERIFY(button->fontMetrics().horizontalAdvance(button->text()) <= button->width() - 20);
-    QVERIFY(!button->toolTip().contains(u'<'));
-}
-
 void testAlarmDialog::keyboard()
 {
     Opened opened(alarmOfTomorrow());
@@ -268,17 +230,6 @@ void testAlarmDialog::keyboard()
     QTest::keyClick(opened.time(), Qt::Key_Return);
     QVERIFY(!opened.dialog.isVisible());
     QCOMPARE(opened.result().AlarmTimeHour, 9);
-}
-
-void testAlarmDialog::labelsToggle()
-{
-    Opened opened(alarmOfTomorrow());
-    QTest::mouseClick(opened.find<QLabel>("lblSoundFile"), Qt::LeftButton);
-    QVERIFY(opened.box("chkSoundFile")->isChecked());
-    QTest::mouseClick(opened.find<QLabel>("lblAlarm"), Qt::LeftButton);
-    QVERIFY(!opened.box("chkAlarm")->isChecked());
-    QTest::keyClick(&opened.dialog, Qt::Key_Escape);
-    QVERIFY(opened.result() == opened.record);
 }
 
 QTEST_MAIN(testAlarmDialog)

@@ -42,13 +42,10 @@ class testNoteAlarm final : public QObject
 private slots:
     void firesOnceToTheSecond();
     void waitsInDaysForLaterDates();
-    void pastAlarmFiresFromTheEventLoop();
-    void switchingOffStops();
     void destroyKeepsTheRecord();
     void nothingFiresDuringALoad();
     void clockSet_data();
     void clockSet();
-    void noteMayGo();
     void systemClockIsOnTime();
     void systemAlarmsStopAndStartAnew();
     void flashes();
@@ -82,29 +79,6 @@ void testNoteAlarm::waitsInDaysForLaterDates()
     QCOMPARE(firedAt, Noon.addSecs(3 * 86400 + 20 * 3600));
     QCOMPARE(note.test.clock.wakeCount, 4);
     QCOMPARE(note.armedChanged.count(), 2);
-}
-
-void testNoteAlarm::pastAlarmFiresFromTheEventLoop()
-{
-    Note note;
-    note.arm(-100'000);
-    QCOMPARE(note.fired.count(), 0);
-    note.test.clock.advance(0);
-    QCOMPARE(note.fired.count(), 1);
-}
-
-void testNoteAlarm::switchingOffStops()
-{
-    Note note;
-    note.arm(30);
-    note.arm(60);
-    QCOMPARE(note.test.clock.runningCount(), 1);
-    note.test.clock.advance(59);
-    QCOMPARE(note.fired.count(), 0);
-    note.record.AlarmOn = false;
-    note.alarm.ArmNoteAlarm();
-    QCOMPARE(note.test.clock.runningCount(), 0);
-    QVERIFY(!note.alarm.isArmed());
 }
 
 void testNoteAlarm::destroyKeepsTheRecord()
@@ -153,15 +127,6 @@ void testNoteAlarm::clockSet()
     note.test.clock.set(Noon.addSecs(setTo));
     note.test.clock.passTo(Noon.addDays(1));
     QCOMPARE(firedAt, Noon.addSecs(firesAt));
-}
-
-void testNoteAlarm::noteMayGo()
-{
-    Note note;
-    note.arm(5);
-    note.gone = true;
-    note.test.clock.advance(5);
-    QCOMPARE(note.fired.count(), 0);
 }
 
 void testNoteAlarm::systemClockIsOnTime()

@@ -60,7 +60,6 @@ private slots:
     void everyTruncation();
     void threeBytesBecomeFour();
     void foldersAndHugeFiles();
-    void libraryHasItsFunction();
     void deadSoundServerDelaysNothing();
 
 private:
@@ -131,12 +130,6 @@ void testSound::foldersAndHugeFiles()
     QFile file(write(wave()));
     QVERIFY(file.resize(1'000'000'000));
     QVERIFY(!waveFile::read(file.fileName()));
-}
-
-void testSound::libraryHasItsFunction()
-{
-    QLibrary library(QStringLiteral(SOUND_LIBRARY));
-    QVERIFY2(library.resolve("quilletsPlayWave") != nullptr, qPrintable(library.errorString()));
 }
 
 void testSound::deadSoundServerDelaysNothing()

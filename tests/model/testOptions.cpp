@@ -48,7 +48,6 @@ private slots:
     void refusedValuesChangeNothing();
     void survivesSaving_data();
     void survivesSaving();
-    void missingAndEmptyFiles();
     void longLines();
     void numbersReadBackExactly();
     void recentLists();
@@ -139,6 +138,9 @@ void testOptions::survivesSaving()
     const QTemporaryDir folder;
     const ProgramPaths paths = pathsUnder(folder);
     clsprogramoptions options;
+    QVERIFY(!modFileIO::LoadOptionsFile(paths, options));
+    setContents(paths.OptionsFile, QByteArray("\0Name = x", 9));
+    QVERIFY(!modFileIO::LoadOptionsFile(paths, options) && options == clsprogramoptions());
     fill(options, recordFields::options);
     options.NameName = name;
     QVERIFY(modFileIO::SaveOptionsFile(paths, options).ok());
@@ -146,18 +148,6 @@ void testOptions::survivesSaving()
     QVERIFY(modFileIO::LoadOptionsFile(paths, again));
     options.NameName = readBack;
     QVERIFY(again == options);
-}
-
-void testOptions::missingAndEmptyFiles()
-{
-    const QTemporaryDir folder;
-    const ProgramPaths paths = pathsUnder(folder);
-    clsprogramoptions options;
-    QVERIFY(!modFileIO::LoadOptionsFile(paths, options));
-    QCOMPARE(contents(paths.OptionsFile), QByteArray());
-    QVERIFY(!modFileIO::LoadOptionsFile(paths, options));
-    setContents(paths.OptionsFile, QByteArray("\0Name = x", 9));
-    QVERIFY(!modFileIO::LoadOptionsFile(paths, options) && options == clsprogramoptions());
 }
 
 void testOptions::longLines()

@@ -77,10 +77,7 @@ public:
         QCoreApplication::processEvents();
         action.trigger();
     }
-    void type(const char *box, const QString &text) const
-    {
-        control<QPlainTextEdit>(stack, box).setPlainText(text);
-    }
+    void type(const char *box, const QString &text) const { control<QPlainTextEdit>(stack, box).setPlainText(text); }
     bool isLocked() const { return control<QWidget>(stack, "fraPassword").isVisible(); }
     bool isLockedOnDesktop(qint32 tag) const
     {

@@ -106,7 +106,8 @@ void testNoteStack::deletes()
     NoteFixture::deleteUnloaded();
     QCOMPARE(m_fixture->captions(), left.isEmpty() ? QStringList(QString()) : left);
     for (int i = 0; i < left.size(); ++i)
-        QCOMPARE(NoteFixture::control<QLabel>(m_fixture->stack, qPrintable(u"lblDisplay(%1)"_s.arg(i))).text(), left[i]);
+        QCOMPARE(NoteFixture::control<QLabel>(m_fixture->stack, qPrintable(u"lblDisplay(%1)"_s.arg(i))).text(),
+                 left[i]);
 }
 
 void testNoteStack::captions_data()
@@ -155,10 +156,164 @@ void testNoteStack::leavingCommits()
 {
     QFETCH(Act, leave);
     m_fixture->addAll({u"other"_s, u"old"_s});
-    const clsNoteProps before = m_fixture->stored().empty() ? clsNoteProps() : clsNoteProps();
     m_fixture->click("lblDisplay(1)");
     m_fixture->type("txtText(1)", u"typed\nlines"_s);
     leave(*m_fixture);
     QCOMPARE(m_fixture->program.forms.holderOf(2)->recordOf(2)->Data, u"typed\r\nlines"_s);
     QCOMPARE(m_fixture->program.forms.holderOf(1)->recordOf(1)->Data, u"other"_s);
 }
+
+void testNoteStack::lockedTextIsNowhere()
+{
+    const QString secret = u"the secret"_s;
+    clsNoteProps note = m_fixture->protectedRecord(secret, false, true);
+    note.TitleBarTitle = u"title"_s;
+    note.BackPicOn = true;
+    note.PicFile = u"/no/such.bmp"_s;
+    m_fixture->add(m_fixture->record(u"other"_s));
+    m_fixture->test.prompts.whileOpen = [&] {
+        QVERIFY(m_fixture->isUnseen(secret));
+        m_fixture->tabs.setCurrentIndex(0);
+        m_fixture->tabs.setCurrentIndex(1);
+        QVERIFY(m_fixture->isUnseen(secret));
+    };
+    m_fixture->test.prompts.expect(Answer::Ok); // the picture that is missing
+    const qint32 tag = m_fixture->add(note);
+    QVERIFY(m_fixture->isLocked() && m_fixture->isUnseen(secret));
+    const auto unlock = [&] {
+        answerDialog(u"frmEnterPwd"_s, [](QDialog &prompt) {
+            control<QLineEdit>(prompt, "txtPwd").setText(u"right"_s);
+            press(prompt, "OKButton");
+        });
+        m_fixture->click("lblPassword");
+    };
+    unlock();
+    QVERIFY(!m_fixture->isLocked() && !m_fixture->isUnseen(secret));
+    m_fixture->click("lblDisplay(1)");
+    m_fixture->choose("mnuLocked");
+    QVERIFY(m_fixture->isLocked() && m_fixture->isUnseen(secret));
+    m_fixture->stack.recordChanged(tag);
+    QVERIFY(m_fixture->isUnseen(secret));
+    m_fixture->click("lblDisplay(1)");
+    QTest::keyClick(&m_fixture->stack, Qt::Key_Return);
+    QVERIFY(m_fixture->isUnseen(secret));
+}
+
+void testNoteStack::locks()
+{
+    const qint32 tag = m_fixture->add(m_fixture->protectedRecord(u"text"_s, false, true));
+    QVERIFY(m_fixture->isLocked());
+    m_fixture->add(m_fixture->record(u"other"_s));
+    QVERIFY(!m_fixture->isLocked());
+    m_fixture->tabs.setCurrentIndex(0);
+    QVERIFY(m_fixture->isLocked());
+    for (const char *name : {"imgDelete", "imgToDesktop", "imgSettings", "imgAlarm", "imgPassword"}) {
+        m_fixture->test.prompts.expect(Answer::Ok);
+        m_fixture->click(name);
+        QTRY_VERIFY2(m_fixture->test.prompts.isDone(), name);
+        QCOMPARE(m_fixture->test.prompts.last.text, u"Sorry, this is a locked quillet."_s);
+    }
+    answerDialog(u"frmEnterPwd"_s, [](QDialog &prompt) {
+        control<QLineEdit>(prompt, "txtPwd").setText(u"right"_s);
+        press(prompt, "OKButton");
+    });
+    m_fixture->click("lblPassword");
+    m_fixture->tabs.setCurrentIndex(1);
+    m_fixture->tabs.setCurrentIndex(0);
+    QVERIFY(!m_fixture->isLocked());
+    // Coming back from the desktop it is locked again.
+    m_fixture->choose("mnuDesktop1");
+    QVERIFY(m_fixture->isLockedOnDesktop(tag));
+    m_fixture->at(tag)->ToTheNoteStack();
+    QVERIFY(m_fixture->isLocked());
+}
+
+void testNoteStack::wrongPasswords_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const char *text, const char *caption, Act act) {
+        QTest::newRow(text) << act << QString::fromLatin1(text) << QString::fromLatin1(caption);
+    };
+    row("Authentication invalid.  Deletion failed.", "Deletion Failed", [](StackFixture &f) {
+        f.test.prompts.expect(Answer::Ok);
+        f.choose("mnuDelete");
+    });
+    row("Access to Settings failed.", "Access failed", [](StackFixture &f) { f.choose("mnuSettings"); });
+    row("Access to Alarm functions failed.", "Access failed", [](StackFixture &f) { f.choose("mnuAlarm"); });
+    row("Access to Password functions failed.", "Access failed", [](StackFixture &f) { f.choose("mnuPassword"); });
+    row("Invalid password.  Access to note failed.", "Access failed", [](StackFixture &f) { f.choose("mnuTitle"); });
+    row("Editing failed.", "Editing failed", [](StackFixture &f) { f.click("lblDisplay(0)"); });
+}
+
+/// While the password is asked for, the alarm of the same note comes due and takes it to the desktop.
+void testNoteStack::wrongPasswords()
+{
+    QFETCH(Act, act);
+    const qint32 tag = m_fixture->add(m_fixture->alarmed(m_fixture->protectedRecord(u"text"_s, true, false)));
+    for (const bool alarm : {false, true}) {
+        answerDialog(u"frmEnterPwd"_s, [this, alarm](QDialog &prompt) {
+            if (alarm)
+                m_fixture->test.clock.advance(60);
+            control<QLineEdit>(prompt, "txtPwd").setText(u"wrong"_s);
+            press(prompt, "OKButton");
+        });
+        QTimer::singleShot(0, qApp, [this] { m_fixture->test.prompts.expect(Answer::Ok); });
+        act(*m_fixture);
+        QTEST(m_fixture->test.prompts.last.text, "text");
+        QTEST(m_fixture->test.prompts.last.caption, "caption");
+        QCOMPARE(m_fixture->stack.noteCount(), alarm ? 0 : 1);
+        QVERIFY(m_fixture->test.prompts.isDone());
+    }
+    QCOMPARE(m_fixture->at(tag)->GetThisNoteProps()->Data, u"text"_s);
+    QCOMPARE(m_fixture->test.sound.played.size(), 1);
+}
+
+void testNoteStack::menus_data()
+{
+    QTest::addColumn<clsNoteProps>("note");
+    QTest::addColumn<QString>("entries");
+    const StackFixture fixture;
+    const QString open =
+        u"To DeskTop,Print,,Title,,Properties,Password%1,Alarm%2,Locked,,Actions,Settings,(Send),(E-mail),,"
+        "Delete,Help"_s;
+    clsNoteProps alarm = fixture.record(u"text"_s);
+    alarm.AlarmOn = true;
+    alarm.AlarmDateYear = 3000;
+    QTest::newRow("plain") << fixture.record(u"text"_s) << open.arg(QString(), QString());
+    QTest::newRow("alarm") << alarm << open.arg(QString(), u"+"_s);
+    QTest::newRow("read-only") << fixture.protectedRecord(u"text"_s, true, false) << open.arg(u"+"_s, QString());
+    QTest::newRow("locked") << fixture.protectedRecord(u"text"_s, true, true)
+                            << u"(To DeskTop),(Print),,(Title),,Properties,(Password+),(Alarm),Locked+,,Actions,"
+                               "(Settings),(Send),(E-mail),,(Delete),(Help)"_s;
+}
+
+void testNoteStack::menus()
+{
+    QFETCH(clsNoteProps, note);
+    m_fixture->add(note);
+    m_fixture->click("imgMenu");
+    QStringList entries;
+    const std::function<void(const QMenu &)> read = [&](const QMenu &menu) {
+        for (const QAction *action : menu.actions()) {
+            const QString entry = action->text() + (action->isChecked() ? u"+"_s : QString());
+            entries.append(action->isEnabled() ? entry : u'(' + entry + u')');
+            if (action->menu() != nullptr)
+                read(*action->menu());
+        }
+    };
+    read(NoteFixture::control<QMenu>(m_fixture->stack, "mnuPopup2"));
+    QTEST(entries.join(u','), "entries");
+    QApplication::activePopupWidget()->close();
+    if (m_fixture->isLocked())
+        return;
+    m_fixture->click("lblDisplay(0)", Qt::RightButton);
+    entries.clear();
+    read(NoteFixture::control<QMenu>(m_fixture->stack, "mnuPopup"));
+    QCOMPARE(entries.join(u','), note.PwdOn ? u"To DeskTop,Print,,Copy,(Paste)"_s : u"To DeskTop,Print,,Copy,Paste"_s);
+    QApplication::activePopupWidget()->close();
+}
+
+QTEST_MAIN(testNoteStack)
+#include "testNoteStack.moc"

@@ -22,7 +22,8 @@ NoteMenu::NoteMenu(const QString &name, std::span<const MenuEntry> entries, QWid
 
 QAction *NoteMenu::addEntry(QMenu &menu, const MenuEntry &entry)
 {
-    QAction *action = entry.kind == MenuEntry::Kind::Separator ? menu.addSeparator() : menu.addAction(tr(entry.caption));
+    QAction *action =
+        entry.kind == MenuEntry::Kind::Separator ? menu.addSeparator() : menu.addAction(tr(entry.caption));
     action->setObjectName(QLatin1String(entry.name));
     if (entry.kind == MenuEntry::Kind::Separator)
         return action;

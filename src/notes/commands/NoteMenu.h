@@ -8,7 +8,8 @@
 #include <vector>
 
 /// What can be commanded of one note, wherever it lives.
-enum class NoteCommand {
+enum class NoteCommand
+{
     None, ///< Of separators and submenus.
     Move, ///< To the NoteStack, or from there to the desktop.
     Print,
@@ -31,7 +32,13 @@ enum class NoteCommand {
 /// One row of a menu's table.
 struct MenuEntry
 {
-    enum class Kind { Item, Check, Separator, Submenu };
+    enum class Kind
+    {
+        Item,
+        Check,
+        Separator,
+        Submenu
+    };
 
     const char *name;    ///< Object name.
     const char *caption; ///< To be translated in the context "NoteMenu"; null for separators.

@@ -6,7 +6,8 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
-namespace noteClipboard {
+namespace noteClipboard
+{
 
 void copy(const QString &text)
 {

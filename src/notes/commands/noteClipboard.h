@@ -7,7 +7,8 @@
 #include <optional>
 
 /// A note's text to and from the clipboard.
-namespace noteClipboard {
+namespace noteClipboard
+{
 
 void copy(const QString &text);
 /// The clipboard's text with CR LF as line ends; nothing when it holds no text.

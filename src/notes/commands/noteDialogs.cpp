@@ -12,8 +12,10 @@
 
 #include <QCoreApplication>
 
-namespace noteDialogs {
-namespace {
+namespace noteDialogs
+{
+namespace
+{
 
 clsNoteProps *recordOf(Program &program, qint32 tag)
 {
@@ -60,17 +62,19 @@ void openSettings(Program &program, qint32 tag, QWidget *owner)
 
 void openAlarm(Program &program, qint32 tag, QWidget *owner)
 {
-    open<frmAlarmSettings>(program, tag, owner, [](const auto &, const auto &) {},
-                           [](frmAlarmSettings &dialog, clsNoteProps &record) {
-                               dialog.AlarmResult(record);
-                               return dialog.isAccepted();
-                           });
+    open<frmAlarmSettings>(
+        program, tag, owner, [](const auto &, const auto &) {},
+        [](frmAlarmSettings &dialog, clsNoteProps &record) {
+            dialog.AlarmResult(record);
+            return dialog.isAccepted();
+        });
 }
 
 void openPassword(Program &program, qint32 tag, QWidget *owner)
 {
-    open<frmPwdSettings>(program, tag, owner, [](const auto &, const auto &) {},
-                         [](frmPwdSettings &dialog, clsNoteProps &record) { return dialog.PwdResult(record); });
+    open<frmPwdSettings>(
+        program, tag, owner, [](const auto &, const auto &) {},
+        [](frmPwdSettings &dialog, clsNoteProps &record) { return dialog.PwdResult(record); });
 }
 
 } // namespace noteDialogs

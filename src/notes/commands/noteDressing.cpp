@@ -11,8 +11,10 @@
 
 #include <cmath>
 
-namespace noteDressing {
-namespace {
+namespace noteDressing
+{
+namespace
+{
 
 constexpr float SmallestPoints = 1.0F;
 constexpr float LargestPoints = 400.0F;
@@ -47,10 +49,9 @@ void dressPicture(Program &program, clsNoteProps &note, NoteBody &body, QWidget 
     if (found && body.setPicture(note.PicFile))
         return;
     body.setPicture({});
-    const QString what =
-        QCoreApplication::translate("noteDressing", "The image ") + note.PicFile +
-        (found ? QCoreApplication::translate("noteDressing", " could not be read.")
-               : QCoreApplication::translate("noteDressing", " could not be found."));
+    const QString what = QCoreApplication::translate("noteDressing", "The image ") + note.PicFile +
+                         (found ? QCoreApplication::translate("noteDressing", " could not be read.")
+                                : QCoreApplication::translate("noteDressing", " could not be found."));
     if (!found)
         note.BackPicOn = false;
     tellFile(program, what, QCoreApplication::translate("noteDressing", "Loading quillet without image."), owner);

@@ -11,7 +11,8 @@ class Program;
 class QWidget;
 
 /// What is read from a note's record to show it, with the boxes about files that are missing.
-namespace noteDressing {
+namespace noteDressing
+{
 
 /// The record's font over the base. Any stored size is kept; shown is one that can be drawn.
 QFont textFont(const clsNoteProps &note, QFont base);

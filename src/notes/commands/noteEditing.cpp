@@ -10,8 +10,10 @@
 
 #include <QCoreApplication>
 
-namespace noteEditing {
-namespace {
+namespace noteEditing
+{
+namespace
+{
 
 /// A text box lays out a line as a whole: a longer one would keep it busy for many seconds.
 constexpr qsizetype LongestLine = 250'000;
@@ -36,10 +38,11 @@ bool mayEdit(Program &program, const clsNoteProps &note, QWidget *owner)
         return false;
     if (!hasEndlessLine(note.Data))
         return true;
-    program.prompts().tell({QCoreApplication::translate("noteEditing", "This Quillet has a line that is too long to be edited.  "
-                                                                       "It can be copied, printed and moved."),
-                            QCoreApplication::translate("noteEditing", "Editing failed"), Message::Icon::Exclamation},
-                           owner);
+    program.prompts().tell(
+        {QCoreApplication::translate("noteEditing", "This Quillet has a line that is too long to be edited.  "
+                                                    "It can be copied, printed and moved."),
+         QCoreApplication::translate("noteEditing", "Editing failed"), Message::Icon::Exclamation},
+        owner);
     return false;
 }
 

@@ -9,7 +9,8 @@ class Program;
 class QWidget;
 
 /// Editing and pasting of a note's text wherever the note lives.
-namespace noteEditing {
+namespace noteEditing
+{
 
 /// Asks what must be asked before the text is edited; false, after a box, when it may not or cannot be. The note may
 /// be gone when this returns.

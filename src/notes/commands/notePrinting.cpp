@@ -11,8 +11,10 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 
-namespace notePrinting {
-namespace {
+namespace notePrinting
+{
+namespace
+{
 
 constexpr qreal TwipsPerInch = 1440;
 constexpr qreal Margin = 720; ///< Twips, also between title, text and date.
@@ -82,7 +84,8 @@ bool printAll(Pages &pages, const Sheet &sheet)
 
 void tell(Program &program, const QString &text, QWidget *owner)
 {
-    program.prompts().tell({text, QCoreApplication::translate("notePrinting", "Print"), Message::Icon::Exclamation}, owner);
+    program.prompts().tell({text, QCoreApplication::translate("notePrinting", "Print"), Message::Icon::Exclamation},
+                           owner);
 }
 
 } // namespace
@@ -140,7 +143,8 @@ void printSheet(Program &program, const Sheet &sheet, QWidget *owner)
 {
     const auto paper = program.printing().paper(sheet.title);
     if (paper == nullptr) {
-        tell(program, QCoreApplication::translate("notePrinting", "There is no printer.  The Quillet was not printed."), owner);
+        tell(program, QCoreApplication::translate("notePrinting", "There is no printer.  The Quillet was not printed."),
+             owner);
         return;
     }
     bool printed = false;
@@ -149,7 +153,8 @@ void printSheet(Program &program, const Sheet &sheet, QWidget *owner)
         printed = pages.begun() && printAll(pages, sheet);
     }
     if (!printed)
-        tell(program, QCoreApplication::translate("notePrinting", "The printer failed.  The Quillet was not printed."), owner);
+        tell(program, QCoreApplication::translate("notePrinting", "The printer failed.  The Quillet was not printed."),
+             owner);
 }
 
 } // namespace notePrinting

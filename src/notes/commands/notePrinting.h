@@ -11,7 +11,8 @@ class Program;
 class QWidget;
 
 /// Printing of one note on as many pages as it needs.
-namespace notePrinting {
+namespace notePrinting
+{
 
 inline constexpr float LineWidth = 8600.0F; ///< Twips, not scaled.
 

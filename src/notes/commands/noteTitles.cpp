@@ -9,8 +9,10 @@
 #include <QCoreApplication>
 #include <QWidget>
 
-namespace noteTitles {
-namespace {
+namespace noteTitles
+{
+namespace
+{
 constexpr int ShortTitleWidth = 2000; // design twips
 }
 

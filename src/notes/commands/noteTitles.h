@@ -10,7 +10,8 @@ class Program;
 class QWidget;
 
 /// What is done with a note's title wherever the note lives.
-namespace noteTitles {
+namespace noteTitles
+{
 
 /// The title, or what stands for one where there is none.
 QString title(const clsNoteProps &note);

@@ -10,7 +10,8 @@
 #include <QPixmapCache>
 #include <QScreen>
 
-namespace {
+namespace
+{
 
 /// No side shorter than a screen's longest needs.
 QSize wholeDesktop()
@@ -55,6 +56,7 @@ void BackgroundPicture::paintEvent(QPaintEvent *)
         m_scaled = m_picture.scaled(covering, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         m_scaled.setDevicePixelRatio(1);
     }
-    const QRect source(QPoint((covering.width() - wanted.width()) / 2, (covering.height() - wanted.height()) / 2), wanted);
+    const QRect source(QPoint((covering.width() - wanted.width()) / 2, (covering.height() - wanted.height()) / 2),
+                       wanted);
     QPainter(this).drawPixmap(rect(), m_scaled, source);
 }

@@ -5,7 +5,8 @@
 #include <QEvent>
 #include <QKeyEvent>
 
-namespace {
+namespace
+{
 constexpr qreal OverlayPoints = 8.5;
 }
 

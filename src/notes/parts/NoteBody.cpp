@@ -4,7 +4,8 @@
 
 #include "shell/common/modForms.h"
 
-NoteBody::NoteBody(QWidget *note) : QObject(note), m_note(note), m_display(new QWidget(note)), m_text(new NoteText(m_display))
+NoteBody::NoteBody(QWidget *note)
+    : QObject(note), m_note(note), m_display(new QWidget(note)), m_text(new NoteText(m_display))
 {
     nameControls();
     connect(m_text, &NoteText::pressed, this, &NoteBody::textPressed);

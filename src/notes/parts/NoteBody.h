@@ -54,7 +54,7 @@ private:
     QWidget *m_note;
     QString m_suffix;
     QPointer<QWidget> m_display; // fraDisplay
-    NoteText *m_text;   // lblDisplay
+    NoteText *m_text;            // lblDisplay
     QPointer<BackgroundPicture> m_picture;
     QPointer<QWidget> m_editLayer; // fraText
     QPointer<NoteTextBox> m_textBox;

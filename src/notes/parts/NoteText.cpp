@@ -11,7 +11,8 @@
 
 #include <cmath>
 
-namespace {
+namespace
+{
 
 constexpr QMargins Air(6, 6, 6, 2);
 constexpr qreal TabDistance = 80;

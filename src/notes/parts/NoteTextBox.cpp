@@ -7,7 +7,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 
-namespace {
+namespace
+{
 constexpr qreal TabDistance = 80;
 }
 

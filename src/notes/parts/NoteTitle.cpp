@@ -7,7 +7,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-namespace {
+namespace
+{
 
 constexpr qreal TitlePoints = 9.5;
 constexpr int LabelIndent = 0;

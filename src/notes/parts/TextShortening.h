@@ -5,7 +5,8 @@
 #include <QFont>
 #include <QString>
 
-namespace textShortening {
+namespace textShortening
+{
 
 /// The text itself where it is not wider than `maxWidth` pixels in the font; else its longest beginning that fits
 /// with "..." behind it; "..." when not even that fits. Measures no more of a long text than could fit on a screen.

@@ -11,7 +11,8 @@
 class Form;
 
 /// Names of the forms that others look for.
-namespace formNames {
+namespace formNames
+{
 inline constexpr QStringView Note = u"frmNote";
 inline constexpr QStringView NoteStack = u"frmNoteStack";
 inline constexpr QStringView Menu = u"frmMenu";

@@ -12,7 +12,8 @@
 
 #include <QLocale>
 
-namespace {
+namespace
+{
 constexpr float DialogOffsetDesign = 250.0F;
 }
 

@@ -13,7 +13,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
+namespace
+{
 constexpr QSize DesignSize(4200, 1500); // twips
 constexpr int Margin = 16;
 } // namespace

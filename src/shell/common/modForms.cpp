@@ -11,8 +11,10 @@
 
 #include <array>
 
-namespace modForms {
-namespace {
+namespace modForms
+{
+namespace
+{
 
 /// Name of the object through which a window is watched; it goes with the window.
 constexpr auto WatcherName = "NoteWindowProc";
@@ -51,7 +53,8 @@ void ScaleForm(QWidget &form, QSize designTwips)
 
 void RemoveSystemMenuItems(QWidget &form, bool, bool, bool r2, bool r3, bool r4, bool, bool r6)
 {
-    Qt::WindowFlags flags = form.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    Qt::WindowFlags flags =
+        form.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
     flags.setFlag(Qt::WindowMinimizeButtonHint, !r3);
     flags.setFlag(Qt::WindowMaximizeButtonHint, !r4);
     flags.setFlag(Qt::WindowCloseButtonHint, !r6);

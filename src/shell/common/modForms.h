@@ -12,7 +12,8 @@ class Program;
 class QWidget;
 
 /// What every window of the program shares.
-namespace modForms {
+namespace modForms
+{
 
 // Windows.
 
@@ -48,7 +49,8 @@ bool SaveAllWithProgress(Program &program);
 void TransferAllToNoteStack(Program &program);
 
 /// Moves notes one by one, with a progress window that can stop it and one write of the data file at the end.
-void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags, const std::function<void(qint32)> &move);
+void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags,
+             const std::function<void(qint32)> &move);
 
 // Texts.
 

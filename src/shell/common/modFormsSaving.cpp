@@ -7,8 +7,10 @@
 
 #include <QCoreApplication>
 
-namespace modForms {
-namespace {
+namespace modForms
+{
+namespace
+{
 
 int notesInStack(const Program &program)
 {
@@ -123,7 +125,8 @@ void removeNote(Program &program, const clsNoteProps &note)
 bool hasUnsavedNotes(const Program &program)
 {
     const auto all = program.forms.loaded();
-    return program.file.unsaved || std::any_of(all.begin(), all.end(), [](const Form *form) { return !form->changedTags().empty(); });
+    return program.file.unsaved ||
+           std::any_of(all.begin(), all.end(), [](const Form *form) { return !form->changedTags().empty(); });
 }
 
 bool SaveAllNotes(Program &program)
@@ -176,7 +179,8 @@ bool SaveAllWithProgress(Program &program)
     return true;
 }
 
-void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags, const std::function<void(qint32)> &move)
+void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags,
+             const std::function<void(qint32)> &move)
 {
     const auto status = showStatus(program, QCoreApplication::translate("Saving", "Transferring ... - Quillets"), text,
                                    static_cast<int>(tags.size()));

@@ -10,7 +10,8 @@
 #include <QFileInfo>
 #include <QUrl>
 
-namespace modHelp {
+namespace modHelp
+{
 
 void ShowHelp(Program &program)
 {

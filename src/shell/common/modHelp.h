@@ -5,7 +5,8 @@
 class Program;
 
 /// The help pages.
-namespace modHelp {
+namespace modHelp
+{
 
 /// Opens the help in the browser; a box says when there is no browser or no help.
 void ShowHelp(Program &program);

@@ -4,7 +4,8 @@
 
 #include <cmath>
 
-namespace modNumerics {
+namespace modNumerics
+{
 
 float RoundSingle(float x)
 {

@@ -3,7 +3,8 @@
 #pragma once
 
 /// Two small conversions of the dialogs.
-namespace modNumerics {
+namespace modNumerics
+{
 
 /// To the nearest whole number; a fraction of exactly 0.5 goes down.
 float RoundSingle(float x);

@@ -7,7 +7,8 @@
 
 #include <QEventLoop>
 
-namespace modTimers {
+namespace modTimers
+{
 
 void SetAutoSave(Program &program, bool on)
 {

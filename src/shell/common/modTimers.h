@@ -7,7 +7,8 @@
 class Program;
 
 /// The auto-save timer and the one wait of the program.
-namespace modTimers {
+namespace modTimers
+{
 
 inline constexpr std::chrono::minutes AutoSavePeriod{30};
 
