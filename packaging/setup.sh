@@ -7,7 +7,7 @@ BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev qt6-mu
 # Fonts: Latin and symbols, the metric twins of the usual office faces, Japanese, Chinese and Korean, emoji.
 RUN_PACKAGES=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-color-emoji)
 DISPLAY_PACKAGES=(xvfb openbox x11vnc x11-apps imagemagick)
-TEST_PACKAGES=(xvfb openbox xdotool x11-utils clang libclang-rt-14-dev)
+TEST_PACKAGES=(python3 xvfb openbox xdotool x11-utils clang libclang-rt-14-dev)
 
 # Installs those of the packages that are not there; asks apt for nothing when all are.
 install_packages() {

@@ -39,15 +39,6 @@ QLabel *makeLabel(const QString &name, const QString &text, QWidget *buddy, QWid
     return label;
 }
 
-/// The short date of the desktop, with all figures of the year: an alarm may lie in any.
-QString dateFormat()
-{
-    QString format = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!format.contains(QLatin1String("yyyy")))
-        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    return format;
-}
-
 QString timeFormat()
 {
     const bool halfDays = QLocale().timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
@@ -89,7 +80,7 @@ QWidget *frmAlarmSettings::makeFrame()
     m_frame->setFrameShape(QFrame::StyledPanel);
     m_date->setObjectName(QStringLiteral("dtpAlarmDate"));
     m_date->setCalendarPopup(true);
-    m_date->setDisplayFormat(dateFormat());
+    m_date->setDisplayFormat(QStringLiteral("ddd, MM/dd/yyyy"));
     m_time->setObjectName(QStringLiteral("dtpAlarmTime"));
     m_time->setDisplayFormat(timeFormat());
     makeSoundButton();

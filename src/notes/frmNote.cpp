@@ -175,6 +175,7 @@ void frmNote::RemoveFromDesktop()
 
 void frmNote::beginTextEditing()
 {
+    m_flash.StopFlashing();
     const QPointer<frmNote> self = this;
     if (m_locked || m_body->isEditing())
         return;
@@ -208,10 +209,11 @@ void frmNote::PlayAlarmSound()
     m_program.sound().play(m_record.SoundFile);
 }
 
-/// The colours of the record stay as they are; only what is seen alternates.
+/// The colours of the record stay as they are; only what is seen alternates, with a text that can be read on both.
 void frmNote::showFlash(const QColor &paper)
 {
-    m_ink = NoteInk::from(colours::toLong(paper), m_record.ForeColor);
+    const bool isOwn = paper == colours::fromLong(m_record.BackColor);
+    m_ink = NoteInk::from(colours::toLong(paper), isOwn ? m_record.ForeColor : colours::SystemText);
     dressInk();
 }
 

@@ -98,7 +98,7 @@ void frmNote::placeChanged()
 
 void frmNote::startMove(QPoint globalPosition)
 {
-    m_body->commit();
+    EndTextEditing();
     m_title->label().setCursor(m_program.pictures().cursor(QStringLiteral("handafter.ico")));
     m_drag.press(WindowDrag::HitTest::Caption, globalPosition);
 }

@@ -65,10 +65,10 @@ qint32 createInStack(Program &program, clsNoteProps record, NoteCreateMode mode)
 void showNote(Program &program, frmNote &note, NoteCreateMode mode)
 {
     note.setReady();
+    note.keepFirstPlace();
     if (modForms::IsDialogShowing(program))
         return;
     note.show();
-    note.keepFirstPlace();
     if (mode != NoteCreateMode::New)
         return;
     windowStacking::SetForegroundWindow(note);
@@ -89,7 +89,7 @@ qint32 createOnDesktop(Program &program, clsNoteProps record, NoteCreateMode mod
     // Boxes may open while the note is dressed, and events run behind them.
     const QPointer<frmNote> guard = note;
     note->ApplyNoteAppearance();
-    if (guard != nullptr)
+    if (guard != nullptr && !note->isUnloaded())
         note->ApplyNoteState(mode);
     if (guard != nullptr && !note->isUnloaded())
         showNote(program, *note, mode);

@@ -9,6 +9,9 @@
 namespace colours
 {
 
+/// Reference to the colour of texts.
+inline constexpr auto SystemText = static_cast<qint32>(0x80000012);
+
 /// Unknown system indices give the text colour of the palette.
 QColor fromLong(qint32 value);
 qint32 toLong(const QColor &colour);

@@ -5,6 +5,7 @@
 #include "platform/WindowStacking.h"
 
 #include <QMessageBox>
+#include <QPointer>
 
 namespace
 {
@@ -37,5 +38,10 @@ Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
                                   : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(QMessageBox::Ok);
     windowStacking::keepAboveNotes(box);
-    return box.exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+    const QPointer<QWidget> window = owner;
+    const Answer answer = box.exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+    // Window managers give the focus to a window of the task bar, where notes are not.
+    if (window != nullptr && window->isVisible())
+        window->activateWindow();
+    return answer;
 }

@@ -6,6 +6,7 @@
 #include "notestack/frmNoteStack.h"
 #include "platform/Browser.h"
 #include "platform/Choosers.h"
+#include "platform/Colours.h"
 #include "platform/Clock.h"
 #include "platform/DisplayPlatform.h"
 #include "platform/EndSignals.h"
@@ -31,7 +32,6 @@ namespace
 {
 
 constexpr qint32 DesignBackColor = 0x0000FFFF;
-constexpr qint32 DesignForeColor = static_cast<qint32>(0x80000012);
 constexpr auto BeforeRestore = 100ms;
 constexpr QSize PanelDesignSize(4440, 3540);
 
@@ -43,7 +43,7 @@ void tellFatal(Prompts &prompts, const QString &text)
 DesignLook designLook()
 {
     const QFont font = QApplication::font();
-    return {DesignBackColor, DesignForeColor, font.family(), static_cast<float>(font.pointSizeF())};
+    return {DesignBackColor, colours::SystemText, font.family(), static_cast<float>(font.pointSizeF())};
 }
 
 /// Switches an option off, with a box, whose file is not there.

@@ -11,6 +11,7 @@
 #include "shell/common/Program.h"
 
 #include <QCoreApplication>
+#include <QWidget>
 
 namespace noteDialogs
 {
@@ -31,6 +32,7 @@ void open(Program &program, qint32 tag, QWidget *owner, const Prepare &prepare, 
     clsNoteProps *record = recordOf(program, tag);
     if (record == nullptr)
         return;
+    const QPointer<QWidget> window = owner;
     const QPointer<Dialog> dialog = new Dialog(program, owner);
     dialog->Initialize(*record);
     prepare(*dialog, *record);
@@ -41,6 +43,9 @@ void open(Program &program, qint32 tag, QWidget *owner, const Prepare &prepare, 
     if (taken)
         record->SaveTag = 1;
     dialog->unload();
+    // Window managers give the focus to a window of the task bar, where notes are not.
+    if (window != nullptr && window->isVisible())
+        window->activateWindow();
     Form *holder = program.forms.holderOf(tag);
     if (taken && holder != nullptr)
         holder->recordChanged(tag);
