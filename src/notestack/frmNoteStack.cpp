@@ -42,6 +42,7 @@ frmNoteStack::frmNoteStack(Program &program)
 {
     setObjectName(formName());
     setWindowTitle(tr("NoteStack - Quillets"));
+    setWindowIcon(m_program.pictures().programIcon());
     modForms::RemoveSystemMenuItems(*this, false, false, false, false, false, false, false);
     makeParts();
     connectParts();

@@ -80,10 +80,20 @@ QCursor Pictures::cursor(const QString &fileName) const
     return *known;
 }
 
-QIcon Pictures::programIcon() const
+QIcon Pictures::icon(std::initializer_list<int> sizes) const
 {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128})
+    for (const int size : sizes)
         icon.addFile(path(QStringLiteral("quillets-%1.png").arg(size)), {size, size});
     return icon;
+}
+
+QIcon Pictures::programIcon() const
+{
+    return icon({16, 24, 32, 48, 64, 128});
+}
+
+QIcon Pictures::smallIcon() const
+{
+    return icon({16, 32});
 }

@@ -23,10 +23,13 @@ public:
     /// Path of a file of the pictures' folder.
     QString path(const QString &fileName) const { return m_folder + QLatin1Char('/') + fileName; }
     QIcon programIcon() const;
+    /// Small sizes alone, for every window: each window carries its pixels to the window system.
+    QIcon smallIcon() const;
     /// A pointer shape, held by its middle.
     QCursor cursor(const QString &fileName) const;
 
 private:
+    QIcon icon(std::initializer_list<int> sizes) const;
     QString pathFor(const QString &fileName, int scale) const;
 
     QString m_folder;

@@ -60,6 +60,7 @@ frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toStrin
 {
     setObjectName(formName());
     setWindowTitle(tr("Menu - Quillets"));
+    setWindowIcon(m_program.pictures().programIcon());
     m_drag.setLimits(SmallestPanel, false);
     setMinimumSize(SmallestPanel);
     makeLogo();

@@ -221,7 +221,7 @@ int Main(int argc, char *argv[])
     Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
     if (!checkComponents(program))
         return 1;
-    QApplication::setWindowIcon(program.pictures().programIcon());
+    QApplication::setWindowIcon(program.pictures().smallIcon());
     return run(program);
 }
 
