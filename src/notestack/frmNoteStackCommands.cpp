@@ -168,7 +168,7 @@ void frmNoteStack::openDialog(const StackNote &note, NoteCommand command)
                             : command == Alarm  ? tr("Access to Alarm functions failed.")
                                                 : tr("Access to Password functions failed.");
     commitEditing();
-    if (!noteLocks::checkAccess(m_program, note.record, failure, this))
+    if (!noteLocks::checkAccess(m_program, clsNoteProps(note.record), failure, this))
         return;
     if (command == Settings)
         noteDialogs::openSettings(m_program, tag, this);
@@ -254,7 +254,7 @@ void frmNoteStack::keyPressEvent(QKeyEvent *event)
 void frmNoteStack::beginTextEditing(StackNote &note)
 {
     const qint32 tag = note.record.Tag;
-    if (note.locked || note.body->isEditing() || !noteEditing::mayEdit(m_program, note.record, this))
+    if (note.locked || note.body->isEditing() || !noteEditing::mayEdit(m_program, clsNoteProps(note.record), this))
         return;
     StackNote *now = chosen();
     if (now != nullptr && now->record.Tag == tag && !now->locked)
@@ -268,7 +268,8 @@ void frmNoteStack::editTitle()
         return;
     const qint32 tag = note->record.Tag;
     TextLostFocus();
-    if (!noteLocks::checkTitleEditing(m_program, note->record, noteTitles::shortTitle(note->record, font()), this))
+    if (!noteLocks::checkTitleEditing(m_program, clsNoteProps(note->record),
+                                      noteTitles::shortTitle(note->record, font()), this))
         return;
     note = chosen();
     if (note == nullptr || note->record.Tag != tag || note->locked)
@@ -308,7 +309,8 @@ void frmNoteStack::deleteNote(qint32 tag)
         return;
     }
     const noteLocks::Refusal refusal{tr("Authentication invalid.  Deletion failed."), tr("Deletion Failed")};
-    if (!noteLocks::checkReadOnly(m_program, note.record, noteLocks::readOnlyDescription(), refusal, this))
+    if (!noteLocks::checkReadOnly(m_program, clsNoteProps(note.record), noteLocks::readOnlyDescription(), refusal,
+                                  this))
         return;
     index = indexOf(tag);
     if (index && !m_notes[*index]->locked)
@@ -350,7 +352,8 @@ void frmNoteStack::unlock()
     if (note == nullptr || !note->locked)
         return;
     const qint32 tag = note->record.Tag;
-    if (!noteLocks::checkUnlocking(m_program, note->record, noteTitles::shortTitle(note->record, font()), this))
+    if (!noteLocks::checkUnlocking(m_program, clsNoteProps(note->record), noteTitles::shortTitle(note->record, font()),
+                                   this))
         return;
     if (const auto index = indexOf(tag))
         ShowLockLayer(*m_notes[*index], false);

@@ -51,6 +51,8 @@ int frmNoteStack::AddANote(const clsNoteProps &record)
     auto note = std::make_unique<StackNote>();
     StackNote *added = note.get();
     added->record = record;
+    // Boxes may open while the tab is dressed: a note that opens locked is locked from the start.
+    added->locked = noteLocks::opensLocked(record);
     added->body = std::make_unique<NoteBody>(m_page);
     added->body->setShown(false);
     const qint32 tag = record.Tag;

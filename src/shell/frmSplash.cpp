@@ -65,8 +65,10 @@ frmSplash::frmSplash(Program &program)
     layout->addWidget(name, 0, 1, Qt::AlignBottom);
     layout->addWidget(version, 1, 1, Qt::AlignTop);
     layout->addWidget(copy, 3, 0, 1, 2);
-    layout->addWidget(status, 5, 0);
-    layout->addWidget(m_info, 5, 1);
+    auto *row = new QHBoxLayout;
+    row->addWidget(status);
+    row->addWidget(m_info, 1);
+    layout->addLayout(row, 5, 0, 1, 2);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(2, 1);
     layout->setRowStretch(4, 2);

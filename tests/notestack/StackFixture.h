@@ -8,8 +8,6 @@
 #include "notestack/frmNoteStack.h"
 #include "support/answerDialog.h"
 
-#include <QMetaProperty>
-
 /// A program with a NoteStack.
 class StackFixture final : public NoteFixture
 {
@@ -74,22 +72,32 @@ public:
         auto &action = control<QAction>(stack, entry);
         while (QWidget *popup = QApplication::activePopupWidget())
             popup->close();
-        QCoreApplication::processEvents();
         action.trigger();
+        QCoreApplication::processEvents();
     }
-    void type(const char *box, const QString &text) const { control<QPlainTextEdit>(stack, box).setPlainText(text); }
-    bool isLocked() const { return control<QWidget>(stack, "fraPassword").isVisible(); }
+    /// Clicks the text and types behind it.
+    void type(int index, const QString &text) const
+    {
+        click(qPrintable(QStringLiteral("lblDisplay(%1)").arg(index)));
+        const QString box = QStringLiteral("txtText(%1)").arg(index);
+        QTest::keyClicks(&control<QPlainTextEdit>(stack, qPrintable(box)), text);
+    }
+    bool isLocked() const
+    {
+        const auto *overlay = stack.findChild<QWidget *>(QStringLiteral("fraPassword"));
+        return overlay != nullptr && overlay->isVisible();
+    }
     bool isLockedOnDesktop(qint32 tag) const
     {
         const auto *overlay = at(tag)->findChild<QWidget *>(QStringLiteral("fraPassword"));
         return overlay != nullptr && overlay->isVisibleTo(at(tag));
     }
-    /// No property of any object in the NoteStack holds the text.
+    /// Nothing that the NoteStack shows or tells holds the text.
     bool isUnseen(const QString &text) const
     {
-        for (const QObject *object : stack.findChildren<QObject *>())
-            for (int i = 0; i < object->metaObject()->propertyCount(); ++i)
-                if (object->metaObject()->property(i).read(object).toString().contains(text))
+        for (const QWidget *widget : stack.findChildren<QWidget *>())
+            for (const char *property : {"text", "plainText", "toolTip", "accessibleName", "accessibleDescription"})
+                if (widget->property(property).toString().contains(text))
                     return false;
         return true;
     }

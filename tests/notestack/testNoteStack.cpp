@@ -118,7 +118,7 @@ void testNoteStack::captions_data()
     QTest::newRow("blanks") << u"   "_s << true;
     QTest::newRow("right to left") << u"\u05E9\u05DC\u05D5\u05DD"_s << true;
     QTest::newRow("markup") << u"<b>x</b>"_s << true;
-    QTest::newRow("combining") << u"e"_s + QString(3000, QChar(0x0301)) << false;
+    QTest::newRow("combining") << u"e"_s + QString(3000, QChar(0x0301)) << true;
     QTest::newRow("emoji") << u"\U0001F600"_s.repeated(400) << false;
     QTest::newRow("200 000 characters") << QString(200'000, u'W') << false;
 }
@@ -144,7 +144,8 @@ void testNoteStack::leavingCommits_data()
     QTest::addColumn<Act>("leave");
     const auto row = [](const char *name, Act leave) { QTest::newRow(name) << leave; };
     row("other tab", [](StackFixture &f) { f.tabs.setCurrentIndex(0); });
-    row("keyboard", [](StackFixture &f) { QTest::keyClick(&f.stack, Qt::Key_PageUp, Qt::ControlModifier); });
+    row("keyboard",
+        [](StackFixture &) { QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp, Qt::ControlModifier); });
     row("new note", [](StackFixture &f) { f.add(f.record(u"new"_s)); });
     row("save", [](StackFixture &f) { modForms::SaveAllNotes(f.program); });
     row("desktop", [](StackFixture &f) { f.choose("mnuDesktop1"); });
@@ -156,10 +157,10 @@ void testNoteStack::leavingCommits()
 {
     QFETCH(Act, leave);
     m_fixture->addAll({u"other"_s, u"old"_s});
-    m_fixture->click("lblDisplay(1)");
-    m_fixture->type("txtText(1)", u"typed\nlines"_s);
+    QVERIFY(QTest::qWaitForWindowActive(&m_fixture->stack));
+    m_fixture->type(1, u" and typed"_s);
     leave(*m_fixture);
-    QCOMPARE(m_fixture->program.forms.holderOf(2)->recordOf(2)->Data, u"typed\r\nlines"_s);
+    QCOMPARE(m_fixture->program.forms.holderOf(2)->recordOf(2)->Data, u"old and typed"_s);
     QCOMPARE(m_fixture->program.forms.holderOf(1)->recordOf(1)->Data, u"other"_s);
 }
 
