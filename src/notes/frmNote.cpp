@@ -12,6 +12,7 @@
 #include "platform/Colours.h"
 #include "platform/SoundPlayer.h"
 #include "platform/WindowStacking.h"
+#include "security/noteLocks.h"
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 
@@ -107,6 +108,8 @@ void frmNote::connectParts()
 void frmNote::InitiateNote(clsNoteProps record)
 {
     m_record = std::move(record);
+    // Before anything is shown of it: boxes may open while the note is dressed.
+    m_locked = noteLocks::opensLocked(m_record);
     modForms::HookWindow(m_program.forms, *this);
     m_toolbar->setDate(m_record.DateCreated);
     ScaleNoteControls();

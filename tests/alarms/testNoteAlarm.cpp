@@ -46,6 +46,7 @@ private slots:
     void nothingFiresDuringALoad();
     void clockSet_data();
     void clockSet();
+    void noteMayGo();
     void systemClockIsOnTime();
     void systemAlarmsStopAndStartAnew();
     void flashes();
@@ -132,6 +133,15 @@ void testNoteAlarm::clockSet()
     note.test.clock.set(Noon.addSecs(setTo));
     note.test.clock.passTo(Noon.addDays(1));
     QCOMPARE(firedAt, Noon.addSecs(firesAt));
+}
+
+void testNoteAlarm::noteMayGo()
+{
+    Note note;
+    note.arm(5);
+    note.gone = true;
+    note.test.clock.advance(5);
+    QCOMPARE(note.fired.count(), 0);
 }
 
 void testNoteAlarm::systemClockIsOnTime()

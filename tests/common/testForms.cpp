@@ -14,10 +14,8 @@ class testForms final : public QObject
 
 private slots:
     void init();
-    void findsWhatIsLoaded();
     void closesEveryWindow();
     void dialogsHideNotes();
-    void tellsThatAnotherProgramIsActive();
 
 private:
     std::unique_ptr<TestProgram> m_test;
@@ -27,33 +25,6 @@ void testForms::init()
 {
     failOnWarnings();
     m_test = std::make_unique<TestProgram>(QDateTime(QDate(2026, 3, 1), QTime(12, 0)));
-}
-
-void testForms::findsWhatIsLoaded()
-{
-    Program &program = m_test->program;
-    Forms &forms = program.forms;
-    int changes = 0;
-    forms.changed = [&changes] { ++changes; };
-    PlainForm panel(program, formNames::Menu.toString());
-    PlainNote without(program, 0);
-    PlainNote second(program, 2);
-    auto *first = new PlainNote(program, 1);
-    QCOMPARE(forms.loaded(), (std::vector<Form *>{&panel, &without, &second, first}));
-    QCOMPARE(forms.notes(), (std::vector<Form *>{&second, first}));
-    QCOMPARE(forms.find(formNames::Note), &without);
-    QCOMPARE(forms.find(formNames::NoteStack), nullptr);
-    QCOMPARE(forms.note(1), first);
-    QCOMPARE(forms.note(0), nullptr);
-    QCOMPARE(forms.holderOf(2), &second);
-    const QPointer<QWidget> window = first;
-    first->unload();
-    first->unload();
-    QVERIFY(first->isUnloaded() && !forms.isLoaded(first) && forms.notes().size() == 1);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(window == nullptr);
-    QCOMPARE(changes, 5);
-    forms.changed = nullptr;
 }
 
 void testForms::closesEveryWindow()
@@ -99,21 +70,6 @@ void testForms::dialogsHideNotes()
     QVERIFY(!note.isVisible());
     modForms::ShowNoteWindows(program);
     QVERIFY(note.isVisible());
-}
-
-void testForms::tellsThatAnotherProgramIsActive()
-{
-    Program &program = m_test->program;
-    PlainNote hooked(program, 1);
-    PlainNote unhooked(program, 2);
-    for (PlainNote *note : {&hooked, &hooked, &unhooked})
-        modForms::HookWindow(program.forms, *note);
-    modForms::UnhookWindow(unhooked);
-    emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-    QCOMPARE(hooked.timesLeft, 0);
-    emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-    QCOMPARE(hooked.timesLeft, 1);
-    QCOMPARE(unhooked.timesLeft, 0);
 }
 
 QTEST_MAIN(testForms)

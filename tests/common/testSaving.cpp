@@ -31,7 +31,6 @@ private slots:
     void noteThatGoesMeanwhile();
     void nothingDuringTheLoad_data() { bothWays(); }
     void nothingDuringTheLoad();
-    void everyHalfHour();
 
 private:
     static void bothWays();
@@ -200,20 +199,6 @@ void testSaving::nothingDuringTheLoad()
     QCOMPARE(changedCount(), 2);
     QVERIFY(!QFile::exists(m_home->paths.DataFile));
     m_test->program.file.LoadingData = false;
-}
-
-void testSaving::everyHalfHour()
-{
-    QTimer &timer = m_test->program.autoSave;
-    makeNotes(1);
-    modTimers::SetAutoSave(m_test->program, true);
-    modTimers::SetAutoSave(m_test->program, true);
-    QVERIFY(timer.isActive());
-    QCOMPARE(timer.intervalAsDuration(), std::chrono::minutes(30));
-    timer.start(1);
-    QTRY_COMPARE(changedCount(), 0);
-    modTimers::SetAutoSave(m_test->program, false);
-    QVERIFY(!timer.isActive());
 }
 
 QTEST_MAIN(testSaving)

@@ -20,7 +20,6 @@ private slots:
     void fileKinds();
     void flattening_data();
     void flattening();
-    void rounding();
     void waiting();
 };
 
@@ -60,17 +59,6 @@ void testTexts::flattening()
 {
     QFETCH(QString, text);
     QTEST(modForms::FlattenText(text), "flat");
-}
-
-void testTexts::rounding()
-{
-    QCOMPARE(modNumerics::RoundSingle(2.5F), 2.0F);
-    QCOMPARE(modNumerics::RoundSingle(2.51F), 3.0F);
-    QCOMPARE(modNumerics::RoundSingle(-2.5F), -3.0F);
-    QCOMPARE(modNumerics::RoundSingle(-2.4F), -2.0F);
-    QCOMPARE(modNumerics::RoundSingle(7), 7.0F);
-    QCOMPARE(modNumerics::CheckValue(true), 1);
-    QCOMPARE(modNumerics::CheckValue(false), 0);
 }
 
 void testTexts::waiting()

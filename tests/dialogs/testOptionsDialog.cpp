@@ -54,7 +54,6 @@ private slots:
     void files();
     void coloursAndFont();
     void failedSaveIsTold();
-    void tabsGoRound();
 
 private:
     Program &program() { return m_test->program; }
@@ -261,25 +260,6 @@ void testOptionsDialog::failedSaveIsTold()
     m_test->prompts.expect(Prompts::Answer::Ok);
     QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
     QVERIFY(m_test->prompts.last.text.startsWith(u"The options could not be saved.\n"));
-}
-
-void testOptionsDialog::tabsGoRound()
-{
-    auto &tabs = control<QTabWidget>(*m_dialog, "TabOptions");
-    QVERIFY(control<QWidget>(*m_dialog, "txtName").hasFocus());
-    for (const char *first : {"cmdFont", "chkSoundFile", "txtEmailAddress", "txtName"}) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
-        QVERIFY2(control<QWidget>(*m_dialog, first).hasFocus(), first);
-    }
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QVERIFY(control<QWidget>(*m_dialog, "txtNameTitle").hasFocus());
-    control<QWidget>(*m_dialog, "txtSizeWidth").setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QVERIFY(qobject_cast<QDialogButtonBox *>(QApplication::focusWidget()->parent()) != nullptr);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(tabs.currentIndex(), 3);
-    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(2).center());
-    QTRY_VERIFY(control<QWidget>(*m_dialog, "chkSoundFile").hasFocus());
 }
 
 QTEST_MAIN(testOptionsDialog)

@@ -48,7 +48,6 @@ private slots:
     void reads();
     void neverMoreThanCovers();
     void foldersAndMissingFiles();
-    void thumbnailShowsTheLastOnly();
 };
 
 void testPictureFile::reads_data()
@@ -92,22 +91,6 @@ void testPictureFile::foldersAndMissingFiles()
     QVERIFY(QDir(folder.path()).mkdir(u"a.bmp"_s));
     QVERIFY(pictureFile::read(folder.filePath(u"a.bmp"_s), {9, 9}).isNull());
     QVERIFY(pictureFile::read(folder.filePath(u"b.bmp"_s), {9, 9}).isNull());
-}
-
-void testPictureFile::thumbnailShowsTheLastOnly()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"a.bmp"_s);
-    QVERIFY(QImage(640, 480, QImage::Format_RGB32).save(path));
-    PictureThumbnail thumbnail(nullptr);
-    thumbnail.setPath(path);
-    thumbnail.setPath(u"/none.bmp"_s);
-    QTRY_VERIFY(thumbnail.text().contains(u"cannot be shown"));
-    thumbnail.setPath(path);
-    QTRY_VERIFY(!thumbnail.pixmap(Qt::ReturnByValue).isNull());
-    QVERIFY(thumbnail.pixmap(Qt::ReturnByValue).width() <= thumbnail.width());
-    thumbnail.setPath({});
-    QCOMPARE(thumbnail.text(), u"No picture"_s);
 }
 
 QTEST_MAIN(testPictureFile)

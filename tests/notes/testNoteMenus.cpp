@@ -39,9 +39,7 @@ private slots:
     void menuOfThePicture_data();
     void menuOfThePicture();
     void menuOfTheText();
-    void opensAndCloses();
     void onTop();
-    void help();
 
 private:
     std::unique_ptr<NoteFixture> m_fixture;
@@ -105,21 +103,6 @@ void testNoteMenus::menuOfTheText()
     QCOMPARE(described(menu), u"To NoteStack Print - Copy (Paste)"_s);
 }
 
-void testNoteMenus::opensAndCloses()
-{
-    frmNote *note = m_fixture->create(u"text"_s);
-    NoteFixture::openMenu(*note);
-    auto &menu = NoteFixture::control<QMenu>(*note, "mnuPopupIco");
-    for (int turn = 0; turn < 3; ++turn) {
-        QVERIFY(menu.isVisible());
-        menu.close();
-        QCoreApplication::processEvents();
-        QVERIFY(!menu.isVisible());
-        NoteFixture::openMenu(*note);
-    }
-    menu.close();
-}
-
 void testNoteMenus::onTop()
 {
     frmNote *note = m_fixture->create(u"text"_s);
@@ -130,24 +113,6 @@ void testNoteMenus::onTop()
         QVERIFY(note->isVisible());
     }
     QCOMPARE(note->GetThisNoteProps()->OnTopOn, before);
-}
-
-void testNoteMenus::help()
-{
-    frmNote *note = m_fixture->create(u"text"_s);
-    QString &page = m_fixture->program.file.paths.HelpFile;
-    page = m_fixture->home.paths.DataFolder + u"/a page.html"_s;
-    TestHome::setContents(page, "help");
-    NoteFixture::choose(*note, "mnuHelp");
-    QCOMPARE(m_fixture->test.browser.last.toLocalFile(), page);
-    m_fixture->test.browser.isThere = false;
-    m_fixture->test.prompts.expect(Answer::Ok);
-    NoteFixture::choose(*note, "mnuHelp");
-    QCOMPARE(m_fixture->test.prompts.last.text, u"Could not find associated Browser"_s);
-    page = u"/no/such.html"_s;
-    m_fixture->test.prompts.expect(Answer::Ok);
-    NoteFixture::choose(*note, "mnuHelp");
-    QCOMPARE(m_fixture->test.prompts.last.text, u"Web Page not Opened"_s);
 }
 
 QTEST_MAIN(testNoteMenus)

@@ -52,7 +52,6 @@ class testNotePlacement final : public QObject
 private slots:
     void opens_data();
     void opens();
-    void cascades();
     void isReachableWhateverIsStored_data();
     void isReachableWhateverIsStored();
 };
@@ -93,22 +92,6 @@ void testNotePlacement::opens()
                                          Fallback, CascadeFrom, 0);
     QCOMPARE(place.geometry, row->opened);
     QCOMPARE(place.stored, row->stored);
-}
-
-void testNotePlacement::cascades()
-{
-    const clsNoteProps nowhere = noteAt(0, 0, 200, 150);
-    std::vector<QPoint> opened;
-    for (int step = 0; step < 100; ++step) {
-        opened.push_back(NotePlacement::of(nowhere, Dpi96, One, Fallback, CascadeFrom, step).geometry.topLeft());
-        QVERIFY(Main.contains(QRect(opened.back(), Fallback)));
-        QVERIFY(step == 0 || opened[static_cast<size_t>(step)] != opened[static_cast<size_t>(step) - 1]);
-    }
-    clsNoteProps rolled = nowhere;
-    rolled.FrmScrolledOn = true;
-    rolled.FrmHeight = Dpi96.fromPixels(2);
-    QCOMPARE(NotePlacement::of(rolled, Dpi96, One, Fallback, CascadeFrom, 0).geometry.height(),
-             NoteLayout::rolledHeight());
 }
 
 void testNotePlacement::isReachableWhateverIsStored_data()

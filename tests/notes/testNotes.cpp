@@ -27,10 +27,7 @@ private slots:
     void rolling();
     void toolbarTwice_data();
     void toolbarTwice();
-    void dragged_data();
-    void dragged();
     void hugeTexts();
-    void deleted();
     void deletedBehindTheQuestion();
 
 private:
@@ -242,46 +239,6 @@ void testNotes::drag(frmNote &note, const char *control, QPoint by)
     send(QEvent::MouseButtonRelease, at + by, Qt::NoButton);
 }
 
-void testNotes::dragged_data()
-{
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QPoint>("by");
-    QTest::addColumn<QMargins>("grown");
-    QTest::newRow("title") << QByteArray("lblTitle") << QPoint(30, 20) << QMargins(-30, -20, 30, 20);
-    QTest::newRow("right") << QByteArray("lblResizeh(0)") << QPoint(30, 20) << QMargins(0, 0, 30, 0);
-    QTest::newRow("left") << QByteArray("lblResizeh(1)") << QPoint(30, 20) << QMargins(-30, 0, 0, 0);
-    QTest::newRow("bottom") << QByteArray("lblResizev(0)") << QPoint(30, 20) << QMargins(0, 0, 0, 20);
-    QTest::newRow("top") << QByteArray("lblResizev(1)") << QPoint(30, -20) << QMargins(0, 20, 0, 0);
-    QTest::newRow("bottom right") << QByteArray("lblResize(1)") << QPoint(30, 20) << QMargins(0, 0, 30, 20);
-    QTest::newRow("bottom left") << QByteArray("lblResize(2)") << QPoint(-30, 20) << QMargins(30, 0, 0, 20);
-    QTest::newRow("top left") << QByteArray("lblResize(4)") << QPoint(-30, -20) << QMargins(30, 20, 0, 0);
-    QTest::newRow("top right") << QByteArray("lblResize(5)") << QPoint(-30, -20) << QMargins(0, 20, -30, 0);
-    // 200 x 150 can lose 133 x 129.
-    QTest::newRow("left, too far") << QByteArray("lblResizeh(1)") << QPoint(500, 0) << QMargins(-133, 0, 0, 0);
-    QTest::newRow("top left, too far") << QByteArray("lblResize(4)") << QPoint(500, 500) << QMargins(-133, -129, 0, 0);
-    QTest::newRow("bottom right, too far")
-        << QByteArray("lblResize(0)") << QPoint(-500, -500) << QMargins(0, 0, -133, -129);
-}
-
-void testNotes::dragged()
-{
-    QFETCH(QByteArray, control);
-    QFETCH(QPoint, by);
-    QFETCH(QMargins, grown);
-    frmNote *note = m_fixture->create(u"text"_s);
-    note->setGeometry(150, 160, 200, 150);
-    note->SaveThisNote();
-    drag(*note, control.constData(), by);
-    const QRect expected = QRect(150, 160, 200, 150).marginsAdded(grown);
-    QCOMPARE(note->geometry(), expected);
-    const clsNoteProps &record = *note->GetThisNoteProps();
-    const Twips &twips = m_fixture->program.twips;
-    QCOMPARE(QRect(twips.toPixels(record.FrmLeft), twips.toPixels(record.FrmTop), twips.toPixels(record.FrmWidth),
-                   twips.toPixels(record.FrmHeight)),
-             expected);
-    QCOMPARE(record.SaveTag, qint16(1));
-}
-
 void testNotes::hugeTexts()
 {
     clsNoteProps record = m_fixture->program.NoteTemplate;
@@ -293,22 +250,6 @@ void testNotes::hugeTexts()
     note->ScrollForm();
     QVERIFY(note->windowTitle().size() < 50);
     QVERIFY(m_fixture->stored().front().Data == record.Data);
-}
-
-void testNotes::deleted()
-{
-    clsNoteProps record = m_fixture->program.NoteTemplate;
-    record.TitleBarTitle = u"Shopping"_s;
-    const QPointer<frmNote> note = m_fixture->create(record);
-    note->SaveThisNote();
-    m_fixture->test.prompts.expect(Answer::Cancel);
-    NoteFixture::choose(*note, "mnuDelete");
-    QCOMPARE(m_fixture->test.prompts.last.text, u"Delete note 'Shopping' ?"_s);
-    QVERIFY(m_fixture->program.forms.isLoaded(note));
-    m_fixture->test.prompts.expect(Answer::Ok);
-    QTest::mouseClick(&NoteFixture::control<QWidget>(*note, "imgMinimize"), Qt::LeftButton);
-    QTRY_VERIFY(note == nullptr);
-    QVERIFY(m_fixture->stored().empty());
 }
 
 void testNotes::deletedBehindTheQuestion()

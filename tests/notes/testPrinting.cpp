@@ -17,7 +17,6 @@ private slots:
     void cleanup();
     void pages_data();
     void pages();
-    void wordsStayWhole();
     void withoutAPrinter();
 
 private:
@@ -66,27 +65,6 @@ void testPrinting::pages()
     const auto count = m_fixture->test.printing.pageCount();
     QVERIFY2(count >= least && count <= most, qPrintable(QString::number(count)));
     QCOMPARE(m_fixture->test.printing.lastJob, u"Title"_s);
-}
-
-void testPrinting::wordsStayWhole()
-{
-    const QFont font(u"DejaVu Sans"_s, 10);
-    const QFontMetricsF metrics(font);
-    const float twips = m_fixture->program.twips.perPixel();
-    const qreal limit = qreal(notePrinting::LineWidth / twips);
-    const QString text = u"some words and\ttabs in a line that goes on "_s.repeated(20) + u"\r\n\r\nend"_s;
-    for (const auto splice : {notePrinting::SpliceStringToPrint, notePrinting::wrappedBeforeLimit}) {
-        const QStringList lines = splice(text, font, twips);
-        QCOMPARE(lines.join(QString()), QString(text).remove(u"\r\n"_s));
-        QVERIFY(lines.size() > 8);
-        QCOMPARE(lines.mid(lines.size() - 2), QStringList({QString(), u"end"_s}));
-        for (const QString &line : lines.mid(0, lines.size() - 3))
-            QVERIFY(line.endsWith(u' ') || line.endsWith(u'\t'));
-    }
-    for (const QString &line : notePrinting::wrappedBeforeLimit(text, font, twips))
-        QVERIFY(metrics.horizontalAdvance(line.trimmed()) <= limit);
-    const QString word(200000, u'w');
-    QCOMPARE(notePrinting::SpliceStringToPrint(word, font, twips), QStringList(word));
 }
 
 void testPrinting::withoutAPrinter()

@@ -65,7 +65,6 @@ private slots:
 
     void newPassword_data();
     void newPassword();
-    void keysCloseTheDialog();
     void currentPasswordIsVerified();
     void cancelIsNeverRight();
     void everyBoxIsMasked();
@@ -77,7 +76,6 @@ private slots:
     void switchedOnAndOffAgainAsksNothing();
     void changing();
     void cancelDropsAll();
-    void captionsToggleTheirBoxes();
 
 private:
     Program &program() { return m_test->program; }
@@ -124,21 +122,6 @@ void testPasswordDialogs::newPassword()
     QVERIFY(control<QLineEdit>(dialog, "txtPwd1").text().isEmpty() &&
             control<QLineEdit>(dialog, "txtPwd2").text().isEmpty());
     QVERIFY(control<QLineEdit>(dialog, "txtPwd1").hasFocus());
-}
-
-void testPasswordDialogs::keysCloseTheDialog()
-{
-    frmNewPwd dialog(program(), nullptr);
-    for (const char *box : {"txtPwd1", "txtPwd2"}) {
-        dialog.show();
-        enter(dialog, "txtPwd1", u"x"_s);
-        enter(dialog, "txtPwd2", u"x"_s);
-        QTest::keyClick(&control<QLineEdit>(dialog, box), Qt::Key_Return);
-        QVERIFY(!dialog.isVisible() && dialog.requestPassword() == u"x");
-        dialog.show();
-        QTest::keyClick(&control<QLineEdit>(dialog, box), Qt::Key_Escape);
-        QVERIFY(!dialog.isVisible() && dialog.requestPassword().isEmpty());
-    }
 }
 
 void testPasswordDialogs::currentPasswordIsVerified()
@@ -304,25 +287,6 @@ void testPasswordDialogs::cancelDropsAll()
     press(dialog, "chkPwd");
     press(dialog, "CancelButton");
     QVERIFY(!dialog.PwdResult(note) && note == before);
-}
-
-void testPasswordDialogs::captionsToggleTheirBoxes()
-{
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize({});
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    press(dialog, "lblPwd1");
-    QCOMPARE(control<QCheckBox>(dialog, "chkPwd1").checkState(), Qt::PartiallyChecked);
-    dialog.Initialize(protectedNote());
-    for (const char *name : {"Pwd2", "Pwd1"}) {
-        auto &box = control<QCheckBox>(dialog, (QByteArray("chk") + name).constData());
-        const bool before = box.isChecked();
-        press(dialog, (QByteArray("lbl") + name).constData());
-        QVERIFY(box.isChecked() != before && box.hasFocus());
-        QVERIFY(control<QWidget>(dialog, (QByteArray("sha") + name).constData()).isVisible());
-    }
-    QVERIFY(!control<QWidget>(dialog, "shaPwd2").isVisible());
 }
 
 QTEST_MAIN(testPasswordDialogs)
