@@ -79,10 +79,8 @@ private slots:
     void soundNeedsAFile();
     void okGivesTheAlarmBack();
     void oldAlarmMayBeSwitchedOff();
-    void keyboard();
     void cancelChangesNothing();
     void impossibleDateIsShownAsNearest();
-    void longPathsAreShortened();
     void soundFiles_data();
     void soundFiles();
 };
@@ -150,33 +148,6 @@ void testAlarmDialog::oldAlarmMayBeSwitchedOff()
     QVERIFY(!opened.dialog.isVisible() && !opened.result().AlarmOn);
 }
 
-void testAlarmDialog::keyboard()
-{
-    Opened opened(alarmOfTomorrow());
-    opened.dialog.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&opened.dialog));
-    const auto mark = [&](const char *name) { return opened.find<QWidget>(name)->isVisible(); };
-    QStringList order;
-    // The pickers' sections are stations of their own.
-    do {
-        const QString name = opened.dialog.focusWidget()->objectName();
-        if (order.isEmpty() || order.last() != name)
-            order << name;
-        QCOMPARE(mark("shaAlarm"), name == u"chkAlarm");
-        QCOMPARE(mark("shaFlash"), name == u"chkFlash");
-        QTest::keyClick(opened.dialog.focusWidget(), Qt::Key_Tab);
-    } while (order.last() != u"CancelButton" && order.size() < 20);
-    QCOMPARE(order.join(u' '), u"chkAlarm dtpAlarmDate dtpAlarmTime chkFlash chkSoundFile cmdSoundFile OKButton "
-                               "CancelButton"_s);
-    QTest::keyClick(&opened.dialog, Qt::Key_F, Qt::AltModifier);
-    QTRY_VERIFY(!opened.box("chkFlash")->isChecked());
-    opened.time()->setSelectedSection(QDateTimeEdit::HourSection);
-    QTest::keyClick(opened.time(), Qt::Key_Up);
-    QTest::keyClick(opened.time(), Qt::Key_Return);
-    QVERIFY(!opened.dialog.isVisible());
-    QCOMPARE(opened.result().AlarmTimeHour, 9);
-}
-
 void testAlarmDialog::cancelChangesNothing()
 {
     Opened opened(alarmOfTomorrow());
@@ -198,17 +169,6 @@ void testAlarmDialog::impossibleDateIsShownAsNearest()
     opened.button("OKButton")->click();
     QCOMPARE(opened.result().AlarmDateMonth, 12);
     QCOMPARE(opened.result().AlarmTimeHour, 0);
-}
-
-void testAlarmDialog::longPathsAreShortened()
-{
-    clsNoteProps record = alarmOfTomorrow();
-    record.SoundFile = u"<b>\n"_s + QString(2'000'000, u'w') + u".wav"_s;
-    Opened opened(record);
-    auto *button = opened.button("cmdSoundFile");
-    QVERIFY(button->text().endsWith(u"..."_s) && !button->text().contains(u'\n'));
-    QVERIFY(button->fontMetrics().horizontalAdvance(button->text()) <= button->width() - 20);
-    QVERIFY(!button->toolTip().contains(u'<'));
 }
 
 void testAlarmDialog::soundFiles_data()

@@ -41,14 +41,12 @@ class testNoteAlarm final : public QObject
 
 private slots:
     void firesOnceToTheSecond();
-    void waitsInDaysForLaterDates();
     void destroyKeepsTheRecord();
     void nothingFiresDuringALoad();
     void clockSet_data();
     void clockSet();
     void noteMayGo();
     void systemClockIsOnTime();
-    void systemAlarmsStopAndStartAnew();
     void flashes();
 };
 
@@ -71,18 +69,6 @@ void testNoteAlarm::firesOnceToTheSecond()
     QCOMPARE(note.fired.count(), 1);
     note.test.clock.advance(0);
     QCOMPARE(note.fired.count(), 2);
-}
-
-void testNoteAlarm::waitsInDaysForLaterDates()
-{
-    Note note;
-    QDateTime firedAt;
-    connect(&note.alarm, &NoteAlarm::fired, this, [&] { firedAt = note.test.clock.now(); });
-    note.arm(3 * 86400 + 20 * 3600);
-    note.test.clock.advance(10 * 86400);
-    QCOMPARE(firedAt, Noon.addSecs(3 * 86400 + 20 * 3600));
-    QCOMPARE(note.test.clock.wakeCount, 4);
-    QCOMPARE(note.armedChanged.count(), 2);
 }
 
 void testNoteAlarm::destroyKeepsTheRecord()
@@ -157,25 +143,6 @@ void testNoteAlarm::systemClockIsOnTime()
     alarm->start(QDateTime(QDate(1, 1, 1), QTime(0, 0)));
     QCOMPARE(due.count(), 1);
     QVERIFY(due.wait(1000));
-}
-
-void testNoteAlarm::systemAlarmsStopAndStartAnew()
-{
-    SystemClock clock;
-    const auto stopped = clock.makeAlarm();
-    const auto moved = clock.makeAlarm();
-    const auto last = clock.makeAlarm();
-    QSignalSpy stoppedDue(stopped.get(), &WallAlarm::due);
-    QSignalSpy movedDue(moved.get(), &WallAlarm::due);
-    QSignalSpy lastDue(last.get(), &WallAlarm::due);
-    stopped->start(clock.now());
-    moved->start(clock.now());
-    stopped->stop();
-    moved->start(clock.now().addDays(40'000));
-    last->start(clock.now().addMSecs(100));
-    QVERIFY(lastDue.wait(1000));
-    QCOMPARE(stoppedDue.count() + movedDue.count(), 0);
-    QVERIFY(moved->isRunning());
 }
 
 void testNoteAlarm::flashes()

@@ -24,7 +24,6 @@ private slots:
     void writesOnce();
     void failureIsToldOnceAndLosesNothing_data() { bothWays(); }
     void failureIsToldOnceAndLosesNothing();
-    void singleNote();
     void cancelled_data();
     void cancelled();
     void noteThatGoesMeanwhile_data() { bothWays(); }
@@ -134,23 +133,6 @@ void testSaving::failureIsToldOnceAndLosesNothing()
     m_home->spoilDataFile();
     m_test->prompts.expect(Answer::Ok);
     saveAll(program);
-}
-
-void testSaving::singleNote()
-{
-    Program &program = m_test->program;
-    makeNotes(2);
-    modForms::saveNote(program, m_notes[0]->record);
-    QCOMPARE(stored(), QStringList(u"note 1"_s));
-    QCOMPARE(changedCount(), 1);
-    m_home->spoilDataFile();
-    m_test->prompts.expect(Answer::Ok);
-    modForms::saveNote(program, m_notes[1]->record);
-    modForms::removeNote(program, m_notes[0]->record);
-    QCOMPARE(changedCount(), 1);
-    m_home->healDataFile();
-    modForms::SaveAllNotes(program);
-    QCOMPARE(stored(), QStringList(u"note 2"_s));
 }
 
 void testSaving::cancelled_data()

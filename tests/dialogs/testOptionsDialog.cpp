@@ -50,9 +50,6 @@ private slots:
     void numbers();
     void checks_data();
     void checks();
-    void files_data();
-    void files();
-    void coloursAndFont();
     void failedSaveIsTold();
 
 private:
@@ -195,62 +192,6 @@ void testOptionsDialog::checks()
     QTEST(control<QTabWidget>(*m_dialog, "TabOptions").currentIndex(), "page");
     QFETCH(QByteArray, focus);
     QVERIFY(control<QWidget>(*m_dialog, focus.constData()).hasFocus());
-}
-
-void testOptionsDialog::files_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("refusal");
-    QTest::newRow("picture") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.ico"_s << QString();
-    QTest::newRow("upper case") << QByteArray("cmdPicFile") << u"Open Picture File"_s << u"/a/b.JPG"_s
-                                << u"Invalid image file."_s;
-    QTest::newRow("sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a & b.wav"_s << QString();
-    QTest::newRow("no sound") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << u"/a.mp3"_s
-                              << u"Invalid sound file."_s;
-    QTest::newRow("send book") << QByteArray("cmdSendBook") << u"Open Send Book"_s << u"/h"_s << QString();
-    QTest::newRow("address book") << QByteArray("cmdAddressBook") << u"Open Address Book"_s << u"/h.txt"_s << QString();
-    QTest::newRow("cancelled") << QByteArray("cmdSoundFile") << u"Open Sound File"_s << QString() << QString();
-    QTest::newRow("long") << QByteArray("cmdAddressBook") << u"Open Address Book"_s
-                          << u"/x"_s.repeated(5000) + u"/end.txt"_s << QString();
-}
-
-void testOptionsDialog::files()
-{
-    QFETCH(QByteArray, button);
-    QFETCH(QString, file);
-    QFETCH(QString, refusal);
-    auto &chooser = control<QPushButton>(*m_dialog, button.constData());
-    const QString before = chooser.text();
-    m_test->choosers.files.push_back(file.isEmpty() ? std::nullopt : std::optional(file));
-    if (!refusal.isEmpty())
-        m_test->prompts.expect(Prompts::Answer::Ok);
-    chooser.click();
-    QTEST(m_test->choosers.lastRequest.title, "title");
-    if (!refusal.isEmpty())
-        QVERIFY((m_test->prompts.last == Message{refusal, u"Error"_s, Message::Icon::Critical}));
-    if (!refusal.isEmpty() || file.isEmpty())
-        QCOMPARE(chooser.text(), before);
-    else if (file.size() < 20)
-        QCOMPARE(chooser.text().replace(u"&&"_s, u"&"_s), file);
-    else
-        QVERIFY(chooser.text().startsWith(u"...") && chooser.text().endsWith(u"/end.txt"));
-}
-
-void testOptionsDialog::coloursAndFont()
-{
-    const QFont font(u"No such font"_s, 17, QFont::Bold, true);
-    m_test->choosers.colours = {QColor(1, 2, 3), std::nullopt};
-    m_test->choosers.fonts = {font, std::nullopt};
-    for (const char *name : {"cmdForeColor", "cmdBackColor", "cmdFont", "cmdFont"})
-        control<QPushButton>(*m_dialog, name).click();
-    QCOMPARE(control<QLabel>(*m_dialog, "lblFontStyle").text(), u"Bold Italic"_s);
-    press(*m_dialog, "cmdOK");
-    clsprogramoptions &options = program().ProgramOptions;
-    QVERIFY(m_dialog->OptionsResult(options));
-    QVERIFY(options.ForeColor == 0x030201 && options.BackColor == 0xFFFF);
-    QVERIFY(options.FontName == font.family() && options.FontSize == 17 && options.FontBoldOn && options.FontItalicOn);
 }
 
 void testOptionsDialog::failedSaveIsTold()

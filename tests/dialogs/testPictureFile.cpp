@@ -46,7 +46,6 @@ class testPictureFile final : public QObject
 private slots:
     void reads_data();
     void reads();
-    void neverMoreThanCovers();
     void foldersAndMissingFiles();
 };
 
@@ -74,15 +73,6 @@ void testPictureFile::reads()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
     QCOMPARE(!pictureFile::read(file.fileName(), {100, 100}).isNull(), shown);
-}
-
-void testPictureFile::neverMoreThanCovers()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"a.jpg"_s);
-    QVERIFY(QImage(800, 400, QImage::Format_RGB32).save(path, "JPG"));
-    QCOMPARE(pictureFile::read(path, {100, 100}).size(), QSize(200, 100));
-    QCOMPARE(pictureFile::read(path, {2000, 2000}).size(), QSize(800, 400));
 }
 
 void testPictureFile::foldersAndMissingFiles()

@@ -46,13 +46,10 @@ private slots:
     void cleanup();
 
     void everythingCanBeReadAndReached();
-    void acceptedUnchanged();
     void cancelled();
     void checks_data();
     void checks();
     void alarmWithoutADate();
-    void pickersAreStored();
-    void innerFramesFollowTheirBoxes();
     void passwordStaysWhenPromptIsCancelled();
     void hostileRecords_data();
     void hostileRecords();
@@ -89,17 +86,6 @@ void testSettingsDialog::everythingCanBeReadAndReached()
 {
     open(noteWithAll());
     checkPages(*m_dialog);
-}
-
-void testSettingsDialog::acceptedUnchanged()
-{
-    clsNoteProps note = noteWithAll();
-    open(note);
-    press(*m_dialog, "cmdOK");
-    QVERIFY(m_dialog->SettingsResult(note));
-    clsNoteProps expected = noteWithAll();
-    expected.SaveTag = 1;
-    QVERIFY(note == expected);
 }
 
 void testSettingsDialog::cancelled()
@@ -159,28 +145,6 @@ void testSettingsDialog::alarmWithoutADate()
     QVERIFY(m_dialog->SettingsResult(note));
     QVERIFY(note.AlarmOn && note.AlarmDateYear == 2026 && note.AlarmDateMonth == 3 && note.AlarmDateDay == 1);
     QVERIFY(note.AlarmTimeHour == 12 && note.AlarmTimeSecond == 1);
-}
-
-void testSettingsDialog::pickersAreStored()
-{
-    clsNoteProps note = noteWithAll();
-    open(note);
-    control<QDateEdit>(*m_dialog, "dtpAlarmDate").setDate(QDate(2030, 12, 31));
-    control<QTimeEdit>(*m_dialog, "dtpAlarmTime").setTime(QTime(23, 58, 59));
-    press(*m_dialog, "cmdOK");
-    QVERIFY(m_dialog->SettingsResult(note));
-    QVERIFY(note.AlarmDateYear == 2030 && note.AlarmDateMonth == 12 && note.AlarmDateDay == 31);
-    QVERIFY(note.AlarmTimeHour == 23 && note.AlarmTimeMinute == 58 && note.AlarmTimeSecond == 59);
-}
-
-void testSettingsDialog::innerFramesFollowTheirBoxes()
-{
-    open({});
-    QCOMPARE(control<QCheckBox>(*m_dialog, "chkPwd1").checkState(), Qt::Unchecked);
-    QVERIFY(!control<QWidget>(*m_dialog, "fraPasswordIn").isEnabled());
-    QVERIFY(!control<QWidget>(*m_dialog, "cmdSoundFile").isEnabled());
-    control<QCheckBox>(*m_dialog, "chkAlarm").click();
-    QVERIFY(control<QWidget>(*m_dialog, "cmdSoundFile").isEnabled());
 }
 
 void testSettingsDialog::passwordStaysWhenPromptIsCancelled()

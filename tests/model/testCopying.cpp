@@ -46,7 +46,6 @@ class testCopying final : public QObject
 private slots:
     void touchesItsListOnly_data();
     void touchesItsListOnly();
-    void wholeRecords();
 };
 
 void testCopying::touchesItsListOnly_data()
@@ -68,19 +67,6 @@ void testCopying::touchesItsListOnly()
     copy(fullNote(), target);
     QCOMPARE(countSame(target, clsNoteProps(), allNoteFields), 38 - count);
     QVERIFY(target.Comments.isEmpty() && target.SaveTag == 0);
-}
-
-void testCopying::wholeRecords()
-{
-    clsSend sent;
-    CopyNoteToSend(fullNote(), sent);
-    QCOMPARE(countSame(sent, clsSend(), recordFields::send<clsSend>), 0);
-    QVERIFY(sent.Data == fullNote().Data && sent.FrmHeightBefore == fullNote().FrmHeightBefore);
-    clsprogramoptions from;
-    fill(from, recordFields::options);
-    clsprogramoptions to;
-    CopyOptions(from, to);
-    QVERIFY(to == from);
 }
 
 QTEST_APPLESS_MAIN(testCopying)

@@ -96,7 +96,6 @@ private slots:
     void emptyFileDoesNotCostTheBackup();
     void unreadableFileIsNeverWritten();
     void readOnlyFolder();
-    void asideNamesAreNeverReused();
 };
 
 void testDataFile::firstSavesAndDeletes()
@@ -262,20 +261,6 @@ void testDataFile::readOnlyFolder()
     QFile::setPermissions(runs.state.paths.DataFolder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QVERIFY(modFileIO::flush(runs.state).ok());
     QVERIFY(runs.files().contains(u"quillets-2026-11-22-221530-damaged.dat"_s));
-}
-
-void testDataFile::asideNamesAreNeverReused()
-{
-    Runs runs;
-    const QString &path = runs.state.paths.DataFile;
-    for (const char *text : {"one", "two", "three"}) {
-        setContents(path, text);
-        const auto kept = keepAside(path, u"old"_s, runs.now);
-        QVERIFY(kept.ok());
-        QCOMPARE(contents(kept.value()), QByteArray(text));
-    }
-    QVERIFY(runs.files().contains(u"quillets-2026-11-22-221530-old-3.dat"_s));
-    QVERIFY(!keepAside(path + u".gone"_s, u"old"_s, runs.now).ok());
 }
 
 QTEST_APPLESS_MAIN(testDataFile)

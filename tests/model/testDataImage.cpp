@@ -78,8 +78,6 @@ class testDataImage final : public QObject
 private slots:
     void movesLikeBytes();
     void foreignRecordsStayLast();
-    void sayingTheSameChangesNothing();
-    void refusesToGrowTooLarge();
 };
 
 void testDataImage::movesLikeBytes()
@@ -116,27 +114,6 @@ void testDataImage::foreignRecordsStayLast()
                                                     "000000003900000006000000") +
                                 "secondfirstoldnew";
     QCOMPARE(image.bytes().toHex(' '), expected.toHex(' '));
-}
-
-void testDataImage::sayingTheSameChangesNothing()
-{
-    DataImage image;
-    QVERIFY(image.put(1, "a").value());
-    QVERIFY(!image.put(1, "a").value());
-    QVERIFY(image.put(2, "b").value());
-    QVERIFY(image.put(1, "a").value()); // It becomes the newest.
-    QVERIFY(image.remove(1) && image.remove(2) && !image.remove(2));
-    QVERIFY(image.bytes().isEmpty() && image.ImageLength() == 0);
-}
-
-void testDataImage::refusesToGrowTooLarge()
-{
-    const QByteArray half(0x3FFFFFE0, Qt::Uninitialized);
-    DataImage image;
-    QVERIFY(image.put(1, half).ok() && image.put(2, half).ok());
-    QVERIFY(!image.put(3, "just a little more than fits").ok());
-    QVERIFY(image.put(2, half.first(100)).ok());
-    QVERIFY(image.put(3, "fits now").ok());
 }
 
 QTEST_APPLESS_MAIN(testDataImage)

@@ -23,17 +23,6 @@ ProgramPaths pathsUnder(const QTemporaryDir &folder)
     return ProgramPaths::under(folder.path(), folder.path());
 }
 
-QByteArray defaultText()
-{
-    return "Name = \r\nTitle = \r\nOrganization = \r\nAlways On Top = False\r\nToolbar = True\r\n"
-           "Prompt For New Title = False\r\nHeight = 1440\r\nWidth = 2160\r\nFont Name = Sans\r\nFont Size = 8.25\r\n"
-           "Font Bold = False\r\nFont Italic = False\r\nText Color = -2147483630\r\nBackground Color = 65535\r\n"
-           "Background Picture = False\r\nBackground Picture File = \r\nPlay Sound = False\r\nPlay Sound File = \r\n"
-           "Flashing Window = True\r\nOpen/Close = False\r\nRead-Only = False\r\nE-mail Address = \r\n"
-           "SMTP Server = \r\nAddress Book = /w/Data/address.txt\r\nListening Port = 1420\r\n"
-           "Send Book = /w/Data/host.txt\r\n";
-}
-
 } // namespace
 
 class testOptions final : public QObject
@@ -41,7 +30,6 @@ class testOptions final : public QObject
     Q_OBJECT
 
 private slots:
-    void defaultsAsText();
     void parses_data();
     void parses();
     void refusedValuesChangeNothing_data();
@@ -49,19 +37,8 @@ private slots:
     void survivesSaving_data();
     void survivesSaving();
     void longLines();
-    void numbersReadBackExactly();
     void recentLists();
 };
-
-void testOptions::defaultsAsText()
-{
-    const ProgramPaths paths = ProgramPaths::under(u"/app"_s, u"/w"_s);
-    const DesignLook look{0xFFFF, qint32(0x80000012), u"Sans"_s, 8.25F};
-    const clsprogramoptions options = modFileIO::SetProgramDefaults(paths, look);
-    QCOMPARE(modStreams::BuildOptionsText(options), defaultText());
-    const clsNoteProps note = modFileIO::BuildNoteDefaults(options, u"today"_s);
-    QVERIFY(note.FrmWidth == 2160 && note.FlashOn && note.DateCreated == u"today" && note.BackColor == 0xFFFF);
-}
 
 void testOptions::parses_data()
 {
@@ -158,18 +135,6 @@ void testOptions::longLines()
         "Height = " + digits + "\r\n" + QByteArray(1'000'000, '\n') + digits + "\r\nName = " + digits, options);
     QCOMPARE(options.NameName.size(), digits.size());
     QCOMPARE(options.FrmHeight, 0.0F);
-}
-
-void testOptions::numbersReadBackExactly()
-{
-    QCOMPARE(textValues::fromSingle(1440), u"1440"_s);
-    QCOMPARE(textValues::fromSingle(0.1F), u"0.1"_s);
-    QRandomGenerator random(1);
-    for (int turn = 0; turn < 100'000; ++turn) {
-        const auto value = std::bit_cast<float>(random.generate());
-        if (std::isfinite(value))
-            QCOMPARE(textValues::toSingle(textValues::fromSingle(value)), std::optional(value));
-    }
 }
 
 void testOptions::recentLists()

@@ -32,8 +32,6 @@ private slots:
     void cleanup();
     void thereAndBack();
     void allAtOnce();
-    void stopsInTheMiddle_data();
-    void stopsInTheMiddle();
     void cancelledSaveKeepsTheMarks();
     void alarmBringsToTheDesktop();
     void alarmBehindADialog_data();
@@ -112,38 +110,6 @@ void testStackMoves::allAtOnce()
     QCOMPARE(m_fixture->captions().join(u' '), u"6 "_s + order.join(u' '));
     QCOMPARE(recordOf(3)->Data, u"3 typed"_s);
     QVERIFY(program().forms.notes().empty());
-}
-
-void testStackMoves::stopsInTheMiddle_data()
-{
-    QTest::addColumn<bool>("ending");
-    QTest::newRow("Cancel") << false;
-    QTest::newRow("end of the program") << true;
-}
-
-void testStackMoves::stopsInTheMiddle()
-{
-    QFETCH(bool, ending);
-    m_fixture->addAll({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s});
-    m_fixture->tabs.setCurrentIndex(0);
-    modForms::SaveAllNotes(program());
-    program().forms.changed = [this, ending] {
-        if (program().forms.notes().size() != 2)
-            return;
-        program().forms.changed = nullptr;
-        if (ending)
-            QTimer::singleShot(0, qApp, [this] {
-                program().Exiting = true;
-                modForms::SaveAllNotes(program());
-                modForms::CloseAllWindows(program());
-            });
-        else
-            program().forms.find(formNames::Status)->window()->findChild<QPushButton *>()->click();
-    };
-    m_fixture->stack.TransferAllToDesktop();
-    const auto stored = m_fixture->stored();
-    QCOMPARE(stored.size(), size_t(5));
-    QCOMPARE(std::count_if(stored.begin(), stored.end(), [](const auto &note) { return note.NoteStackOn; }), 2);
 }
 
 void testStackMoves::cancelledSaveKeepsTheMarks()
