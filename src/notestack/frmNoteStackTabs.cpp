@@ -68,8 +68,9 @@ int frmNoteStack::AddANote(const clsNoteProps &record)
         m_tabs->setCurrentIndex(index);
     }
     ApplyTabAppearance(*added);
-    if (indexOf(tag))
-        ApplyTabState(*added);
+    // A box may have been open, and the note may have left and come back meanwhile as another.
+    if (const auto now = indexOf(tag))
+        ApplyTabState(*m_notes[*now]);
     SetActivatedForm();
     return index;
 }
@@ -128,8 +129,8 @@ void frmNoteStack::ApplyTabState(StackNote &note)
         ShowLockLayer(note, true);
     const qint32 tag = note.record.Tag;
     noteDressing::checkSound(m_program, note.record, this);
-    if (indexOf(tag))
-        ArmTabAlarm(note);
+    if (const auto now = indexOf(tag))
+        ArmTabAlarm(*m_notes[*now]);
 }
 
 void frmNoteStack::showTitle(StackNote &note)
@@ -321,14 +322,14 @@ clsNoteProps *frmNoteStack::recordOf(qint32 tag)
 
 void frmNoteStack::recordChanged(qint32 tag)
 {
-    const auto index = indexOf(tag);
+    auto index = indexOf(tag);
     if (!index)
         return;
-    StackNote &note = *m_notes[*index];
-    ApplyTabAppearance(note);
-    if (!indexOf(tag))
+    ApplyTabAppearance(*m_notes[*index]);
+    index = indexOf(tag);
+    if (!index)
         return;
-    ArmTabAlarm(note);
+    ArmTabAlarm(*m_notes[*index]);
     ShowNewTitle();
 }
 
