@@ -29,7 +29,8 @@ class Display:
         self._folder = tempfile.mkdtemp(prefix="quillets-display-")
         reader, writer = os.pipe()
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp",
+             "-noreset"],  # A reset, as its first client leaves, takes a window manager along that has just come.
             pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as number:
@@ -38,7 +39,11 @@ class Display:
             self.environment.pop(name, None)
         self._manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment,
                                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "a window manager")
+        try:
+            until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "a window manager")
+        except AssertionError:
+            self.close()
+            raise
 
     def close(self):
         for process in (self._manager, self._server):
@@ -89,7 +94,16 @@ class Program:
         return self.exit_code()
 
     def exit_code(self):
+        if not self.ends_within(PATIENCE):
+            self._process.send_signal(signal.SIGABRT)  # The sanitizer tells where it was.
         return self._process.wait(PATIENCE)
+
+    def ends_within(self, seconds):
+        try:
+            self._process.wait(seconds)
+        except subprocess.TimeoutExpired:
+            return False
+        return True
 
     def windows(self):
         found = self._display.run("xdotool", "search", "--all", "--onlyvisible", "--pid", str(self._process.pid), "--name", ".")
