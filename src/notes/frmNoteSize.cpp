@@ -88,6 +88,13 @@ void frmNote::moveEvent(QMoveEvent *event)
     placeChanged();
 }
 
+void frmNote::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    if (m_drag.settle())
+        storePlace();
+}
+
 /// A window manager moves windows for reasons of its own, at a change of screens above all; only what happens to the
 /// note that the user is at is the user's doing.
 void frmNote::placeChanged()

@@ -35,4 +35,9 @@ bool hidesPlaces()
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
+bool isX11InWayland()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb") && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 } // namespace displayPlatform

@@ -13,5 +13,7 @@ void preferX11();
 void forgetPreference();
 /// True where the platform keeps places to itself: they are then neither set nor stored.
 bool hidesPlaces();
+/// True where the program runs as an X11 program in a Wayland session.
+bool isX11InWayland();
 
 } // namespace displayPlatform

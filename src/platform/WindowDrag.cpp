@@ -3,11 +3,16 @@
 #include "platform/WindowDrag.h"
 
 #include "platform/DisplayPlatform.h"
+#include "platform/WindowStacking.h"
 
 #include <QWindow>
 
+using namespace std::chrono_literals;
+
 namespace
 {
+
+constexpr std::chrono::milliseconds LongestAnswer = 150ms;
 
 Qt::Edges edgesOf(WindowDrag::HitTest held)
 {
@@ -71,12 +76,52 @@ void WindowDrag::press(HitTest held, QPoint globalPosition)
     m_from = globalPosition;
     m_start = m_window->geometry();
     m_dragged = false;
-    m_active = true;
+    m_asking.invalidate();
+    m_nativeStart.reset();
+    m_active = !displayPlatform::hidesPlaces() || !handOver();
+    if (displayPlatform::isX11InWayland())
+        m_nativeStart = windowStacking::nativePlaceOf(*m_window);
+}
+
+/// True when the window system goes on with what was begun.
+bool WindowDrag::handOver()
+{
     QWindow *handle = m_window->windowHandle();
-    if (!displayPlatform::hidesPlaces() || handle == nullptr)
+    if (handle == nullptr)
+        return false;
+    const Qt::Edges edges = edgesOf(m_held);
+    return edges == Qt::Edges() ? handle->startSystemMove() : handle->startSystemResize(edges);
+}
+
+/// Some compositors let X11 programs place no window once it is open, and tell neither that nor where they move it
+/// themselves: after a while without any effect they are asked to move it.
+void WindowDrag::watchPlace()
+{
+    if (!m_nativeStart || m_held != HitTest::Caption || m_window->pos() == m_start.topLeft())
         return;
-    const Qt::Edges edges = edgesOf(held);
-    m_active = !(edges == Qt::Edges() ? handle->startSystemMove() : handle->startSystemResize(edges));
+    if (!m_asking.isValid())
+        return m_asking.start();
+    if (windowStacking::nativePlaceOf(*m_window) != m_nativeStart) {
+        m_nativeStart.reset();
+        return;
+    }
+    if (!m_asking.hasExpired(LongestAnswer.count()))
+        return;
+    m_window->move(m_start.topLeft());
+    m_active = !handOver();
+}
+
+bool WindowDrag::settle()
+{
+    if (m_active || !m_nativeStart || m_window == nullptr)
+        return false;
+    const QPoint nativeStart = *std::exchange(m_nativeStart, std::nullopt);
+    const QPoint by = windowStacking::nativePlaceOf(*m_window).value_or(nativeStart) - nativeStart;
+    const QPoint place = m_start.topLeft() + by / m_window->devicePixelRatio();
+    if (place == m_window->pos())
+        return false;
+    m_window->move(place);
+    return true;
 }
 
 QRect WindowDrag::dragged(QPoint by) const
@@ -100,6 +145,8 @@ QRect WindowDrag::dragged(QPoint by) const
 
 bool WindowDrag::move(QPoint globalPosition)
 {
+    if (m_active && m_window != nullptr)
+        watchPlace();
     if (!m_active || m_window == nullptr)
         return false;
     const QRect target = dragged(globalPosition - m_from);

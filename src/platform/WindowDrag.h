@@ -2,15 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QPointer>
 #include <QRect>
 #include <QSize>
 #include <QWidget>
 
+#include <optional>
+
 /// Moves or sizes a frameless window while the left button is held. Done by hand where the place of a window is the
-/// program's to set (no snapping, exact places), by the window system where it is not. Feed it the mouse events of
-/// whatever the window is held by.
+/// program's to set (no snapping, exact places), by the window system where it is not, or turns out not to be. Feed it
+/// the mouse events of whatever the window is held by.
 class WindowDrag
 {
 public:
@@ -39,11 +42,16 @@ public:
     /// True when something was dragged since the press.
     bool release();
     bool isActive() const { return m_active; }
+    /// To be said when the pointer comes back to the window: takes over where the window system has put it, which it
+    /// may not have told. True when it was put elsewhere.
+    bool settle();
 
     static Qt::CursorShape cursorFor(HitTest held);
 
 private:
     QRect dragged(QPoint by) const;
+    bool handOver();
+    void watchPlace();
 
     QPointer<QWidget> m_window;
     QSize m_smallest{1, 1};
@@ -53,4 +61,6 @@ private:
     HitTest m_held = HitTest::Caption;
     QPoint m_from;
     QRect m_start;
+    std::optional<QPoint> m_nativeStart;
+    QElapsedTimer m_asking;
 };

@@ -123,4 +123,25 @@ void skipTaskBar(QWidget &window)
 #endif
 }
 
+std::optional<QPoint> nativePlaceOf(const QWidget &window)
+{
+#ifdef QUILLETS_HAS_XCB
+    auto *display = connection();
+    if (display == nullptr || window.windowHandle() == nullptr)
+        return std::nullopt;
+    const auto id = static_cast<xcb_window_t>(window.windowHandle()->winId());
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
+    const auto cookie = xcb_translate_coordinates(display, id, root, 0, 0);
+    xcb_translate_coordinates_reply_t *reply = xcb_translate_coordinates_reply(display, cookie, nullptr);
+    if (reply == nullptr)
+        return std::nullopt;
+    const QPoint place(reply->dst_x, reply->dst_y);
+    std::free(reply);
+    return place;
+#else
+    Q_UNUSED(window)
+    return std::nullopt;
+#endif
+}
+
 } // namespace windowStacking

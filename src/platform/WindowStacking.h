@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPoint>
+
+#include <optional>
+
 class QWidget;
 
 /// What Qt leaves to the window manager: staying on top, coming to the front, staying out of the task bar.
@@ -19,5 +23,8 @@ void bringForward(QWidget &window);
 void SetForegroundWindow(QWidget &window);
 /// Keeps the window out of the task bar and the window switcher; to be said after every show.
 void skipTaskBar(QWidget &window);
+/// Where the window system has a frameless window, in its own pixels, asked of it; the widget itself tells where it
+/// asked to be. Nothing where it cannot be asked.
+std::optional<QPoint> nativePlaceOf(const QWidget &window);
 
 } // namespace windowStacking
