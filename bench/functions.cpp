@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "model/modFileIO.h"
+#include "notes/commands/notePrinting.h"
 #include "notes/parts/NoteText.h"
 #include "notes/parts/TextShortening.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QPdfWriter>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -95,10 +98,28 @@ void showFiveMegabytes(benchmark::State &run)
     }
 }
 
+/// Onto the pages of a document.
+void printFiveMegabytes(benchmark::State &run)
+{
+    const QString text = QStringLiteral("a line of usual length\r\n").repeated(5'000'000 / 24);
+    const QFont font(QStringLiteral("DejaVu Sans"), 9);
+    notePrinting::Sheet sheet;
+    sheet.textFont = font;
+    for (auto _ : run) {
+        QBuffer pages;
+        pages.open(QIODevice::WriteOnly);
+        QPdfWriter paper(&pages);
+        sheet.lines = notePrinting::SpliceStringToPrint(text, font, 15);
+        if (!notePrinting::printOn(paper, sheet))
+            run.SkipWithError("not printed");
+    }
+}
+
 BENCHMARK(loadHundredNotes)->Unit(benchmark::kMicrosecond);
 BENCHMARK(saveHundredNotes)->Unit(benchmark::kMicrosecond);
 BENCHMARK(shortenTwoHundredThousandCharacters)->Unit(benchmark::kMicrosecond);
 BENCHMARK(showFiveMegabytes)->Unit(benchmark::kMicrosecond);
+BENCHMARK(printFiveMegabytes)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -3,7 +3,7 @@
 #include "notes/NoteFixture.h"
 #include "notes/commands/notePrinting.h"
 
-#include <QFontMetricsF>
+#include <QFontDatabase>
 
 using namespace Qt::StringLiterals;
 using Answer = Prompts::Answer;
@@ -49,6 +49,10 @@ void testPrinting::pages_data()
     QTest::newRow("one long line") << u"words "_s.repeated(3000) << 10.0F << 3 << 5;
     QTest::newRow("font higher than a page") << u"a\r\nb"_s << 1000.0F << 2 << 5;
     QTest::newRow("no font at all") << u"a\r\nb"_s << -7.0F << 1 << 1;
+    QTest::newRow("emoji")
+        << u"tea \U0001F375\r\ntea \U0001F375 and \u5DE6\r\n\u05E9\u05DC\u05D5\u05DD \U0001F375 abc"_s << 10.0F << 1
+        << 1;
+    QTest::newRow("emoji larger than a page") << u"\U0001F375"_s << 1000.0F << 2 << 3;
 }
 
 void testPrinting::pages()
@@ -65,6 +69,9 @@ void testPrinting::pages()
     const auto count = m_fixture->test.printing.pageCount();
     QVERIFY2(count >= least && count <= most, qPrintable(QString::number(count)));
     QCOMPARE(m_fixture->test.printing.lastJob, u"Title"_s);
+    // Where the system has emoji.
+    if (QFontDatabase::families().contains(u"Noto Color Emoji"))
+        QCOMPARE(m_fixture->test.printing.hasPictures(), text.contains(u"\U0001F375"));
 }
 
 void testPrinting::withoutAPrinter()

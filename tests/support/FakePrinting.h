@@ -29,6 +29,7 @@ public:
     }
     /// Of the last job.
     qsizetype pageCount() const { return m_sheets.data().count("/Type /Page\n"); }
+    bool hasPictures() const { return m_sheets.data().contains("/Subtype /Image"); }
 
 private:
     QBuffer m_sheets;

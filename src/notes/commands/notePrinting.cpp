@@ -8,8 +8,16 @@
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QRawFont>
+#include <QTextLayout>
+#include <QTextOption>
+
+#include <algorithm>
+#include <array>
 
 namespace notePrinting
 {
@@ -20,10 +28,20 @@ constexpr qreal TwipsPerInch = 1440;
 constexpr qreal Margin = 720; ///< Twips, also between title, text and date.
 constexpr qreal TitlePoints = 2;
 constexpr qreal SmallestPoints = 1;
+constexpr QChar FirstPicture(0x2000);    ///< No character below is a picture by itself.
+constexpr qreal MostPicturePixels = 256; ///< Of the side of one character.
 
 bool isBlank(QChar c)
 {
     return c == u' ' || c == u'\t';
+}
+
+/// Told by its tables: a font that is asked for the outline of a picture draws none of its pictures any more.
+bool hasPictures(const QRawFont &font)
+{
+    constexpr std::array Tables{"CBLC", "COLR", "sbix"};
+    return std::any_of(Tables.begin(), Tables.end(),
+                       [&font](const char *table) { return !font.fontTable(table).isEmpty(); });
 }
 
 /// Puts lines one below the other and begins a new page where one is full.
@@ -39,7 +57,6 @@ public:
 
     bool print(const QString &line, const QFont &font)
     {
-        m_painter.setFont(font);
         const QFontMetricsF metrics(font, &m_paper);
         if (m_top + metrics.height() > m_paper.height() - fromTwips(Margin)) {
             if (!m_paper.newPage())
@@ -48,12 +65,52 @@ public:
         }
         QString shown = line;
         shown.replace(u'\t', QLatin1String("        "));
-        m_painter.drawText(QPointF(fromTwips(Margin), m_top + metrics.ascent()), shown);
+        draw(shown, font, {fromTwips(Margin), m_top + metrics.ascent()});
         m_top += metrics.lineSpacing();
         return true;
     }
 
 private:
+    /// The fonts of a printed document hold outlines only: characters that are pictures, as emoji, are drawn as such.
+    void draw(const QString &text, const QFont &font, QPointF baseline)
+    {
+        m_painter.setFont(font);
+        if (std::all_of(text.begin(), text.end(), [](QChar c) { return c < FirstPicture; })) {
+            m_painter.drawText(baseline, text);
+            return;
+        }
+        QTextLayout layout(text, font, &m_paper);
+        QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+        option.setTextDirection(Qt::LayoutDirectionAuto);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        layout.endLayout();
+        if (!line.isValid())
+            return;
+        line.setPosition({0, -line.ascent()});
+        for (const QGlyphRun &run : line.glyphRuns())
+            if (hasPictures(run.rawFont()))
+                drawAsImage(run, baseline);
+            else
+                m_painter.drawGlyphRun(baseline, run);
+    }
+
+    void drawAsImage(const QGlyphRun &run, QPointF at)
+    {
+        const QRectF onPaper = run.boundingRect().translated(at) & QRectF(0, 0, m_paper.width(), m_paper.height());
+        const qreal scale = qMin(1.0, MostPicturePixels / qMax(1.0, run.rawFont().pixelSize()));
+        QImage image((onPaper.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        if (image.isNull())
+            return;
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        painter.drawGlyphRun(at - onPaper.topLeft(), run);
+        painter.end();
+        m_painter.drawImage(onPaper, image);
+    }
+
     qreal fromTwips(qreal twips) const { return twips * m_paper.logicalDpiY() / TwipsPerInch; }
 
     QPagedPaintDevice &m_paper;
@@ -139,6 +196,12 @@ QStringList wrappedBeforeLimit(const QString &text, const QFont &font, float twi
     return lines;
 }
 
+bool printOn(QPagedPaintDevice &paper, const Sheet &sheet)
+{
+    Pages pages(paper);
+    return pages.begun() && printAll(pages, sheet);
+}
+
 void printSheet(Program &program, const Sheet &sheet, QWidget *owner)
 {
     const auto paper = program.printing().paper(sheet.title);
@@ -147,12 +210,7 @@ void printSheet(Program &program, const Sheet &sheet, QWidget *owner)
              owner);
         return;
     }
-    bool printed = false;
-    {
-        Pages pages(*paper);
-        printed = pages.begun() && printAll(pages, sheet);
-    }
-    if (!printed)
+    if (!printOn(*paper, sheet))
         tell(program, QCoreApplication::translate("notePrinting", "The printer failed.  The Quillet was not printed."),
              owner);
 }

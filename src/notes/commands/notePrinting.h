@@ -8,6 +8,7 @@
 #include <QStringList>
 
 class Program;
+class QPagedPaintDevice;
 class QWidget;
 
 /// Printing of one note on as many pages as it needs.
@@ -32,6 +33,8 @@ QStringList SpliceStringToPrint(const QString &text, const QFont &font, float tw
 /// The same for lines that end at their last blank or tab before the limit.
 QStringList wrappedBeforeLimit(const QString &text, const QFont &font, float twipsPerPixel);
 
+/// Prints on this paper, from its first page on; false when it failed.
+bool printOn(QPagedPaintDevice &paper, const Sheet &sheet);
 /// Prints on the default printer; without one, or when it fails, a box says so.
 void printSheet(Program &program, const Sheet &sheet, QWidget *owner);
 
