@@ -9,6 +9,7 @@
 #include "platform/Choosers.h"
 #include "platform/Clock.h"
 #include "platform/Prompts.h"
+#include "platform/toolTips.h"
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 
@@ -178,7 +179,7 @@ void frmAlarmSettings::showSoundFile()
         path.isEmpty() ? tr("Choose file") : textShortening::shortened(path, room, m_soundFile->font());
     m_soundFile->setText(QString(caption).replace(u'&', QLatin1String("&&")));
     m_soundFile->setAccessibleName(tr("Sound file: %1").arg(caption));
-    m_soundFile->setToolTip(textShortening::shortened(path, TooltipWidth, font()).toHtmlEscaped());
+    m_soundFile->setToolTip(toolTips::plain(textShortening::shortened(path, TooltipWidth, font())));
 }
 
 void frmAlarmSettings::chooseSoundFile()

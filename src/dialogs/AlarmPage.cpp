@@ -58,7 +58,8 @@ void AlarmPage::makePickers()
     m_date->setCalendarPopup(true);
     m_time->setObjectName(QStringLiteral("dtpAlarmTime"));
     m_time->setDisplayFormat(timeFormat());
-    m_time->setMinimumWidth(m_date->sizeHint().width());
+    m_date->setMinimumWidth(m_date->sizeHint().width() + Spacing);
+    m_time->setMinimumWidth(m_date->minimumWidth());
 }
 
 void AlarmPage::layOut()

@@ -15,6 +15,7 @@
 #include "shell/common/Program.h"
 
 #include <QCheckBox>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -83,8 +84,8 @@ QGroupBox *AppearancePage::makeFont(const QString &changeFont)
 
 void AppearancePage::connectControls()
 {
-    connect(m_foreColor, &QPushButton::clicked, this, [this] { chooseColour(m_fields.ForeColor); });
-    connect(m_backColor, &QPushButton::clicked, this, [this] { chooseColour(m_fields.BackColor); });
+    connect(m_foreColor, &QPushButton::clicked, this, [this] { chooseColour(*m_foreColor, m_fields.ForeColor); });
+    connect(m_backColor, &QPushButton::clicked, this, [this] { chooseColour(*m_backColor, m_fields.BackColor); });
     connect(m_pictureOn->box(), &QCheckBox::toggled, this, [this](bool on) { m_fields.BackPicOn = on; });
     connect(m_picture, &QPushButton::clicked, this, &AppearancePage::choosePicture);
     connect(m_font, &QPushButton::clicked, this, &AppearancePage::chooseFont);
@@ -122,11 +123,13 @@ QWidget *AppearancePage::pictureField() const
     return m_picture;
 }
 
-void AppearancePage::chooseColour(qint32 &field)
+void AppearancePage::chooseColour(const ColourButton &button, qint32 &field)
 {
     const QPointer<AppearancePage> self = this;
-    const auto chosen = m_program.choosers().colour(colours::fromLong(field), window());
-    if (self == nullptr || !chosen)
+    const QColor current = button.colour();
+    const auto chosen = m_program.choosers().colour(current, window());
+    // A colour of the desktop's that is let stand goes on following the desktop.
+    if (self == nullptr || !chosen || chosen->rgb() == current.rgb())
         return;
     field = colours::toLong(*chosen);
     showFields();
@@ -135,10 +138,13 @@ void AppearancePage::chooseColour(qint32 &field)
 void AppearancePage::chooseFont()
 {
     const QPointer<AppearancePage> self = this;
-    const auto chosen = m_program.choosers().font(FontPreview::fontOf(m_fields), window());
+    const QFont current = FontPreview::fontOf(m_fields);
+    const auto chosen = m_program.choosers().font(current, window());
     if (self == nullptr || !chosen)
         return;
-    m_fields.FontName = chosen->family();
+    // The name may be an alias, or of a font that only another computer has.
+    if (chosen->family() != QFontInfo(current).family())
+        m_fields.FontName = chosen->family();
     m_fields.FontSize = static_cast<float>(chosen->pointSizeF());
     m_fields.FontBoldOn = chosen->bold();
     m_fields.FontItalicOn = chosen->italic();

@@ -41,7 +41,7 @@ private:
     QGroupBox *makeColours();
     QGroupBox *makeFont(const QString &changeFont);
     void connectControls();
-    void chooseColour(qint32 &field);
+    void chooseColour(const ColourButton &button, qint32 &field);
     void chooseFont();
     void choosePicture();
 

@@ -5,6 +5,7 @@
 #include "model/textValues.h"
 #include "notes/parts/NoteInk.h"
 #include "notes/parts/TextShortening.h"
+#include "platform/toolTips.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -100,5 +101,5 @@ void FontPreview::resizeEvent(QResizeEvent *event)
 void FontPreview::fitName()
 {
     m_name->setText(textShortening::shortened(m_fontName, m_name->width(), m_name->font()));
-    m_name->setToolTip(m_fontName.left(256));
+    m_name->setToolTip(toolTips::plain(m_fontName));
 }

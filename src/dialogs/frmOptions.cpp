@@ -84,7 +84,7 @@ bool frmOptions::isInOrder()
     }
     if (isSizeRight())
         return true;
-    select(General, m_firstSize);
+    select(General, isSide(m_options.FrmHeight) ? m_width : m_height);
     return false;
 }
 

@@ -49,7 +49,8 @@ private:
     clsprogramoptions m_options;
     std::vector<std::function<void()>> m_fill; ///< Each shows one field of the options.
     QWidget *m_firstText = nullptr;            // txtName
-    QWidget *m_firstSize = nullptr;            // txtSizeHeight
+    QWidget *m_height = nullptr;               // txtSizeHeight
+    QWidget *m_width = nullptr;                // txtSizeWidth
     QWidget *m_emailAddress = nullptr;         // txtEmailAddress
     AppearancePage *m_appearance;
     AttentionGroup *m_attention = nullptr;

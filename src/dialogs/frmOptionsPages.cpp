@@ -43,6 +43,18 @@ QFormLayout *rowsOf(QWidget *group)
     return rows;
 }
 
+/// Lets the fields of all begin at one line.
+void alignFields(std::initializer_list<QFormLayout *> forms)
+{
+    int widest = 0;
+    for (const QFormLayout *rows : forms)
+        for (int row = 0; row < rows->rowCount(); ++row)
+            if (const QLayoutItem *caption = rows->itemAt(row, QFormLayout::LabelRole))
+                widest = std::max(widest, caption->sizeHint().width());
+    for (const QFormLayout *rows : forms)
+        rows->itemAt(0, QFormLayout::LabelRole)->widget()->setMinimumWidth(widest);
+}
+
 QLabel *hint(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
@@ -163,9 +175,10 @@ QGroupBox *frmOptions::makeMiscellaneous(QWidget *page)
     auto *rows = new QFormLayout;
     rows->setHorizontalSpacing(Spacing);
     rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_firstSize = makeSize(QStringLiteral("txtSizeHeight"), tr("Height in inches"), m_options.FrmHeight);
-    rows->addRow(tr("&Height:"), m_firstSize);
-    rows->addRow(tr("&Width:"), makeSize(QStringLiteral("txtSizeWidth"), tr("Width in inches"), m_options.FrmWidth));
+    m_height = makeSize(QStringLiteral("txtSizeHeight"), tr("Height in inches"), m_options.FrmHeight);
+    m_width = makeSize(QStringLiteral("txtSizeWidth"), tr("Width in inches"), m_options.FrmWidth);
+    rows->addRow(tr("&Height:"), m_height);
+    rows->addRow(tr("&Width:"), m_width);
     layout->addLayout(rows);
     layout->addWidget(hint(tr("In inches, from 0.5 to 5."), group));
     return group;
@@ -182,7 +195,10 @@ QWidget *frmOptions::makeAlarmPassword()
     addCheck(choices, QStringLiteral("Pwd2"), tr("&Read-only"), m_options.PwdReadonlyOn);
     auto *alarm = new QGroupBox(tr("Alarm"), page);
     m_attention = new AttentionGroup(program(), AttentionFields::of(m_options), tr("Open Sound File"), alarm);
-    column(alarm, 0)->addWidget(m_attention);
+    QVBoxLayout *attention = column(alarm, 0);
+    // The marks of its check boxes begin where those of the group above do.
+    attention->setContentsMargins(attention->contentsMargins() - QMargins(CheckRow::MarkRoom, 0, 0, 0));
+    attention->addWidget(m_attention);
     layout->addWidget(password);
     layout->addWidget(alarm);
     layout->addStretch();
@@ -194,8 +210,11 @@ QWidget *frmOptions::makeNetworking()
     auto *page = new QWidget(this);
     QVBoxLayout *layout = column(page, Spacing);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeSend(page));
-    layout->addWidget(makeEmail(page));
+    QGroupBox *send = makeSend(page);
+    QGroupBox *email = makeEmail(page);
+    alignFields({static_cast<QFormLayout *>(send->layout()), static_cast<QFormLayout *>(email->layout())});
+    layout->addWidget(send);
+    layout->addWidget(email);
     layout->addStretch();
     return page;
 }

@@ -60,4 +60,34 @@ qint32 toLong(const QColor &colour)
     return colour.red() | (colour.green() << 8) | (colour.blue() << 16);
 }
 
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const double la = luminance(a);
+    const double lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+QColor mixed(const QColor &from, const QColor &to, double share)
+{
+    const auto channel = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
+    return {channel(from.red(), to.red()), channel(from.green(), to.green()), channel(from.blue(), to.blue())};
+}
+
+QColor distinct(const QColor &colour, const QColor &ground, const QColor &towards)
+{
+    constexpr int Steps = 8;
+    for (int step = 0; step < Steps; ++step) {
+        const QColor candidate = mixed(colour, towards, static_cast<double>(step) / Steps);
+        if (contrast(candidate, ground) >= LeastContrast)
+            return candidate;
+    }
+    return towards;
+}
+
 } // namespace colours

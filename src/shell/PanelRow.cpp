@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/PanelRow.h"
 
+#include "platform/Colours.h"
+
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -142,8 +144,8 @@ void PanelRow::paintEvent(QPaintEvent *)
     QColor wash = palette().color(QPalette::Highlight);
     wash.setAlphaF(m_pressed ? 0.30F : hovered ? 0.16F : 0.0F);
     painter.setBrush(wash);
-    QColor ring = palette().color(QPalette::Highlight);
-    ring.setAlphaF(0.7F);
+    const QColor ring = colours::distinct(palette().color(QPalette::Highlight), palette().color(QPalette::Window),
+                                          palette().color(QPalette::WindowText));
     painter.setPen(hasFocus() ? QPen(ring, 1) : QPen(Qt::NoPen));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
 }

@@ -6,7 +6,7 @@
 #include "shell/common/modForms.h"
 
 #include <QDialogButtonBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -31,24 +31,25 @@ frmCredits::frmCredits(Program &program, QWidget *owner)
     setObjectName(formName());
     setWindowTitle(tr("Credits - Quillets"));
     setModal(true);
-    auto *rows = new QFormLayout(this);
+    auto *rows = new QGridLayout(this);
     rows->setContentsMargins(Margin, Margin, Margin, Margin * 3 / 4);
-    rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     rows->setHorizontalSpacing(Margin);
     rows->setVerticalSpacing(Margin / 2);
-    rows->addRow(tr("Program:"), label(tr("Written by the Quillets developers,\nfree under the MIT licence."), this));
-    rows->addRow(
-        tr("Toolkit:"),
-        label(
-            tr("Qt %1, under the GNU Lesser General\nPublic License, version 3.").arg(QString::fromLatin1(qVersion())),
-            this));
-    rows->addRow(tr("Pictures:"), label(tr("Drawn for Quillets, under its licence."), this));
-    rows->addRow(tr("Fonts:"), label(tr("Those of your desktop; none come with Quillets."), this));
+    const auto add = [&](const QString &caption, const QString &text) {
+        const int row = rows->rowCount();
+        rows->addWidget(label(caption, this), row, 0);
+        rows->addWidget(label(text, this), row, 1);
+    };
+    add(tr("Program:"), tr("Written by the Quillets developers,\nfree under the MIT licence."));
+    add(tr("Toolkit:"),
+        tr("Qt %1, under the GNU Lesser General\nPublic License, version 3.").arg(QString::fromLatin1(qVersion())));
+    add(tr("Pictures:"), tr("Drawn for Quillets, under its licence."));
+    add(tr("Fonts:"), tr("Those of your desktop; none come with Quillets."));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
     connect(buttons, &QDialogButtonBox::accepted, this, &frmCredits::accept);
     buttons->setContentsMargins(0, Margin / 2, 0, 0);
-    rows->addRow(buttons);
+    rows->addWidget(buttons, rows->rowCount(), 0, 1, 2);
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -18,6 +18,7 @@ namespace
 constexpr QSize DesignSize(4500, 3000);
 constexpr int Margin = 28;
 constexpr int LogoSize = 64;
+constexpr int StatusGap = 6;
 constexpr QColor Paper(0xFF, 0xFF, 0xE6);
 constexpr QColor Ink(0x2B, 0x2B, 0x22);
 constexpr QColor FaintInk(0x6B, 0x6B, 0x5C);
@@ -66,6 +67,7 @@ frmSplash::frmSplash(Program &program)
     layout->addWidget(version, 1, 1, Qt::AlignTop);
     layout->addWidget(copy, 3, 0, 1, 2);
     auto *row = new QHBoxLayout;
+    row->setSpacing(StatusGap);
     row->addWidget(status);
     row->addWidget(m_info, 1);
     layout->addLayout(row, 5, 0, 1, 2);

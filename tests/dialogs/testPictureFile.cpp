@@ -58,6 +58,17 @@ void testPictureFile::reads_data()
     QTest::newRow("one pixel") << bitmap(1, 1) << true;
     QTest::newRow("bomb") << bomb() << false;
     QTest::newRow("no head") << bitmap(300, 200).first(20) << false;
+    QTest::newRow("half a bitmap") << bitmap(300, 200).chopped(1) << false;
+    const QImage large = QImage::fromData(bitmap(300, 200));
+    const QByteArray jpeg = bytesOf(large, "JPG");
+    QTest::newRow("photograph") << jpeg << true;
+    QTest::newRow("photograph with a tail") << jpeg + QByteArray(5000, '\0') << true;
+    QTest::newRow("half a photograph") << jpeg.first(jpeg.size() * 3 / 4) << false;
+    QFile gif(QStringLiteral(TEST_RESOURCES "/images/menuup.gif"));
+    QVERIFY(gif.open(QIODevice::ReadOnly));
+    const QByteArray animation = gif.readAll();
+    QTest::newRow("gif") << animation << true;
+    QTest::newRow("half a gif") << animation.first(animation.size() * 3 / 4) << false;
     QTest::newRow("empty") << QByteArray() << false;
     QTest::newRow("text") << QByteArray("Not a picture at all.") << false;
     QTest::newRow("a kind that is not allowed") << svg << false;

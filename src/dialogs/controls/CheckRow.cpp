@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/controls/CheckRow.h"
 
+#include "platform/Colours.h"
+
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -27,7 +29,8 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(palette().color(QPalette::Highlight));
+        painter.setPen(colours::distinct(palette().color(QPalette::Highlight), palette().color(QPalette::Window),
+                                         palette().color(QPalette::WindowText)));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), MarkRadius, MarkRadius);
     }
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/controls/FileButton.h"
 
+#include "platform/toolTips.h"
+
 namespace
 {
 
@@ -42,7 +44,7 @@ FileButton::FileButton(const QString &name, const QString &accessibleName, QWidg
 void FileButton::setPath(const QString &path)
 {
     m_path = path;
-    setToolTip(path.left(LongestMeasured));
+    setToolTip(toolTips::plain(path));
     setAccessibleDescription(path.left(LongestMeasured));
     showPath();
 }
