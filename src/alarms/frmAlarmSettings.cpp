@@ -4,6 +4,7 @@
 
 #include "alarms/modAlarm.h"
 #include "dialogs/controls/CheckRow.h"
+#include "dialogs/controls/Pickers.h"
 #include "model/modCopyObject.h"
 #include "notes/parts/TextShortening.h"
 #include "platform/Choosers.h"
@@ -14,14 +15,11 @@
 #include "shell/common/modForms.h"
 
 #include <QCheckBox>
-#include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPointer>
 #include <QPushButton>
-#include <QTimeEdit>
 
 namespace
 {
@@ -40,18 +38,12 @@ QLabel *makeLabel(const QString &name, const QString &text, QWidget *buddy, QWid
     return label;
 }
 
-QString timeFormat()
-{
-    const bool halfDays = QLocale().timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
-    return halfDays ? QStringLiteral("hh:mm:ss AP") : QStringLiteral("HH:mm:ss");
-}
-
 } // namespace
 
 frmAlarmSettings::frmAlarmSettings(Program &program, QWidget *owner)
     : QDialog(owner), Form(program.forms, Name.toString()), m_program(program),
       m_on(new CheckRow(QStringLiteral("Alarm"), tr("&Alarm enabled"), this)), m_frame(new QFrame(this)),
-      m_date(new QDateEdit(m_frame)), m_time(new QTimeEdit(m_frame)),
+      m_date(new DatePicker(m_frame)), m_time(new TimePicker(m_frame)),
       m_flash(new CheckRow(QStringLiteral("Flash"), tr("&Flashing window"), m_frame)),
       m_soundOn(new CheckRow(QStringLiteral("SoundFile"), tr("&Play sound (*.wav):"), m_frame)),
       m_soundFile(new QPushButton(m_frame))
@@ -80,10 +72,7 @@ QWidget *frmAlarmSettings::makeFrame()
     m_frame->setObjectName(QStringLiteral("fraAlarmIn"));
     m_frame->setFrameShape(QFrame::StyledPanel);
     m_date->setObjectName(QStringLiteral("dtpAlarmDate"));
-    m_date->setCalendarPopup(true);
-    m_date->setDisplayFormat(QStringLiteral("ddd, MM/dd/yyyy"));
     m_time->setObjectName(QStringLiteral("dtpAlarmTime"));
-    m_time->setDisplayFormat(timeFormat());
     makeSoundButton();
 
     auto *grid = new QGridLayout(m_frame);

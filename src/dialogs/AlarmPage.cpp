@@ -4,17 +4,15 @@
 
 #include "alarms/modAlarm.h"
 #include "dialogs/controls/CheckRow.h"
+#include "dialogs/controls/Pickers.h"
 #include "platform/Clock.h"
 #include "platform/Prompts.h"
 #include "shell/common/Program.h"
 
 #include <QCheckBox>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QFrame>
-#include <QLocale>
 #include <QSignalBlocker>
-#include <QTimeEdit>
 #include <QVBoxLayout>
 
 namespace
@@ -22,12 +20,6 @@ namespace
 
 constexpr int Indent = 22;
 constexpr int Spacing = 8;
-
-QString timeFormat()
-{
-    const bool halfDays = QLocale().timeFormat(QLocale::ShortFormat).contains(QLatin1Char('a'), Qt::CaseInsensitive);
-    return halfDays ? QStringLiteral("hh:mm:ss AP") : QStringLiteral("HH:mm:ss");
-}
 
 /// A note that never had an alarm has no date at all.
 bool hasNoDate(const clsSettingsProps &settings)
@@ -40,7 +32,7 @@ bool hasNoDate(const clsSettingsProps &settings)
 AlarmPage::AlarmPage(Program &program, clsSettingsProps &settings, QWidget *parent)
     : QWidget(parent), m_program(program), m_settings(settings),
       m_on(new CheckRow(QStringLiteral("Alarm"), tr("&Alarm enabled"), this)), m_frame(new QFrame(this)),
-      m_date(new QDateEdit(m_frame)), m_time(new QTimeEdit(m_frame)),
+      m_date(new DatePicker(m_frame)), m_time(new TimePicker(m_frame)),
       m_attention(new AttentionGroup(program, AttentionFields::of(settings), tr("Open sound file"), m_frame))
 {
     m_frame->setObjectName(QStringLiteral("fraAlarmIn"));
@@ -54,10 +46,7 @@ AlarmPage::AlarmPage(Program &program, clsSettingsProps &settings, QWidget *pare
 void AlarmPage::makePickers()
 {
     m_date->setObjectName(QStringLiteral("dtpAlarmDate"));
-    m_date->setDisplayFormat(QStringLiteral("ddd, MM/dd/yyyy"));
-    m_date->setCalendarPopup(true);
     m_time->setObjectName(QStringLiteral("dtpAlarmTime"));
-    m_time->setDisplayFormat(timeFormat());
     m_date->setMinimumWidth(m_date->sizeHint().width() + Spacing);
     m_time->setMinimumWidth(m_date->minimumWidth());
 }

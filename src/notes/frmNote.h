@@ -57,6 +57,7 @@ public:
     void ScrollForm();
     void lockform();
     void ToggleToolbar();
+    int heightAfterToggle(int before);
     /// The title that texts about the note use.
     QString title() const;
     QString ShortenString(const QString &text, int maxWidth, const QString &fontName, qreal fontSize) const;
@@ -114,7 +115,6 @@ private:
     void deleteNote();
     void unlock();
     /// The title as texts about the note show it.
-    QString shortTitle() const;
 
     // frmNoteDressing.cpp
     void dressColours();
@@ -156,6 +156,12 @@ private:
     NoteMenu *m_noteMenu = nullptr;  // mnuPopupIco
     NoteMenu *m_shortMenu = nullptr; // mnuPopup
     bool m_menuOpen = false;
+    /// A note too low to give all of the toolbar's height gets back what it gave.
+    struct
+    {
+        int from = 0;
+        int to = -1;
+    } m_lowered;
     bool m_pressedWhileOpen = false; ///< The press on the menu's picture that closed the menu.
     bool m_locked = false;
     bool m_ready = false;

@@ -251,11 +251,6 @@ void frmNote::ToTheNoteStack()
     modCreateNote::moveNote(m_program, record, true, locked);
 }
 
-QString frmNote::shortTitle() const
-{
-    return noteTitles::shortTitle(m_record, font());
-}
-
 void frmNote::deleteNote()
 {
     const QPointer<frmNote> self = this;
@@ -275,6 +270,7 @@ void frmNote::deleteNote()
 void frmNote::unlock()
 {
     const QPointer<frmNote> self = this;
-    if (noteLocks::checkUnlocking(m_program, m_record, shortTitle(), this) && self != nullptr && !isUnloaded())
+    if (noteLocks::checkUnlocking(m_program, m_record, noteTitles::promptTitle(m_record, 0), this) && self != nullptr &&
+        !isUnloaded())
         ShowLockLayer(false);
 }

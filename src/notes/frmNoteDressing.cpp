@@ -30,9 +30,9 @@ void frmNote::dressColours()
 void frmNote::dressInk()
 {
     for (PictureButton *button : {m_menu, m_exit, m_minimize})
-        button->setInk(m_ink.ink);
+        button->setInk(m_ink.buttonInk);
     m_title->setInk(m_ink.ink, m_ink.paper);
-    m_toolbar->setInk(m_ink.ink, m_ink.faintInk);
+    m_toolbar->setInk(m_ink.buttonInk, m_ink.faintInk);
     m_overlay->setInk(m_ink.ink, m_ink.paper);
     m_body->setInk(m_ink);
     update();
@@ -58,7 +58,7 @@ void frmNote::ApplyNoteState(NoteCreateMode)
 void frmNote::showTitle()
 {
     m_title->setTitle(title());
-    setWindowTitle(m_title->shownTitle());
+    setWindowTitle(m_title->windowTitle());
 }
 
 void frmNote::UpdateToolbarIcons()
@@ -69,8 +69,10 @@ void frmNote::UpdateToolbarIcons()
 void frmNote::SetFocusToTitleBar()
 {
     const QPointer<frmNote> self = this;
-    if (m_locked || !noteLocks::checkTitleEditing(m_program, m_record, shortTitle(), this) || self == nullptr ||
-        m_locked || isUnloaded())
+    if (m_locked ||
+        !noteLocks::checkTitleEditing(m_program, m_record, noteTitles::promptTitle(m_record, noteTitles::PromptReserve),
+                                      this) ||
+        self == nullptr || m_locked || isUnloaded())
         return;
     beginTitleEditing();
 }

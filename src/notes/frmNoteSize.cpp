@@ -175,12 +175,25 @@ void frmNote::scrollStep()
     SaveThisNote();
 }
 
+/// Of a note whose toolbar is switched on or off.
+int frmNote::heightAfterToggle(int before)
+{
+    if (m_record.ToolBarOn)
+        return before == m_lowered.to ? m_lowered.from : before + NoteLayout::toolbarShare();
+    const int after = qMax(NoteLayout::smallestSize().height(), before - NoteLayout::toolbarShare());
+    m_lowered = {before, after};
+    return after;
+}
+
 void frmNote::ToggleToolbar()
 {
     m_record.ToolBarOn = !m_record.ToolBarOn;
-    const int by = m_record.ToolBarOn ? NoteLayout::toolbarShare() : -NoteLayout::toolbarShare();
+    const Twips &twips = m_program.twips;
+    const int unrolled = twips.toPixels(m_record.FrmHeightBefore);
     if (!m_record.FrmScrolledOn)
-        resize(width(), qMax(NoteLayout::smallestSize().height(), height() + by));
+        resize(width(), heightAfterToggle(height()));
+    else if (unrolled > NoteLayout::rolledHeight())
+        m_record.FrmHeightBefore = twips.fromPixels(heightAfterToggle(unrolled));
     LayoutNote();
     storeSize();
     markChanged();

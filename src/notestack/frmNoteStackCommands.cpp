@@ -269,7 +269,7 @@ void frmNoteStack::editTitle()
     const qint32 tag = note->record.Tag;
     TextLostFocus();
     if (!noteLocks::checkTitleEditing(m_program, clsNoteProps(note->record),
-                                      noteTitles::shortTitle(note->record, font()), this))
+                                      noteTitles::promptTitle(note->record, noteTitles::PromptReserve), this))
         return;
     note = chosen();
     if (note == nullptr || note->record.Tag != tag || note->locked)
@@ -352,7 +352,7 @@ void frmNoteStack::unlock()
     if (note == nullptr || !note->locked)
         return;
     const qint32 tag = note->record.Tag;
-    if (!noteLocks::checkUnlocking(m_program, clsNoteProps(note->record), noteTitles::shortTitle(note->record, font()),
+    if (!noteLocks::checkUnlocking(m_program, clsNoteProps(note->record), noteTitles::promptTitle(note->record, 0),
                                    this))
         return;
     if (const auto index = indexOf(tag))

@@ -186,9 +186,9 @@ void frmNoteStack::dressPage(const StackNote &note)
 {
     m_page->setInk(note.ink);
     for (PictureButton *button : {m_menu, m_exit})
-        button->setInk(note.ink.ink);
+        button->setInk(note.ink.buttonInk);
     m_title->setInk(note.ink.ink, note.ink.paper);
-    m_toolbar->setInk(note.ink.ink, note.ink.faintInk);
+    m_toolbar->setInk(note.ink.buttonInk, note.ink.faintInk);
     m_overlay->setInk(note.ink.ink, note.ink.paper);
     QColor grip = note.ink.ink;
     grip.setAlphaF(0.5F);

@@ -4,6 +4,7 @@
 
 #include "security/secrets.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -32,14 +33,14 @@ bool frmEnterPwd::passOn(const QString &stored) const
     return m_accepted && m_typed == stored;
 }
 
-int frmEnterPwd::descriptionWidth() const
+int frmEnterPwd::descriptionWidth()
 {
     return LeastWidth - 2 * Margin;
 }
 
-QFont frmEnterPwd::descriptionFont() const
+QFont frmEnterPwd::descriptionFont()
 {
-    return m_desc->font();
+    return QApplication::font("QLabel");
 }
 
 void frmEnterPwd::accept()

@@ -19,8 +19,8 @@ public:
     /// True when OK was chosen and what was typed is exactly the stored password; Cancel is never a right password.
     bool passOn(const QString &stored) const;
     /// Pixels that the description has, and its font, for callers that shorten a title to it.
-    int descriptionWidth() const;
-    QFont descriptionFont() const;
+    static int descriptionWidth();
+    static QFont descriptionFont();
 
 protected:
     void accept() override;

@@ -78,6 +78,8 @@ private slots:
     void newAlarmNeedsTheFuture();
     void soundNeedsAFile();
     void okGivesTheAlarmBack();
+    void typedAsWritten_data();
+    void typedAsWritten();
     void oldAlarmMayBeSwitchedOff();
     void cancelChangesNothing();
     void impossibleDateIsShownAsNearest();
@@ -205,6 +207,33 @@ void testAlarmDialog::soundFiles()
     QTEST(opened.result().SoundFile, "after");
     const QString caption = opened.button("cmdSoundFile")->text().replace(u"&&"_s, u"&"_s);
     QCOMPARE(caption, opened.result().SoundFile.isEmpty() ? u"Choose file"_s : opened.result().SoundFile);
+}
+
+void testAlarmDialog::typedAsWritten_data()
+{
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<QString>("time");
+    QTest::newRow("separators") << u"06/20/2032"_s << u"14:45:09"_s;
+    QTest::newRow("one digit") << u"6/2/2032"_s << u"9:05:00"_s;
+    QTest::newRow("digits alone") << u"06202032"_s << u"144509"_s;
+}
+
+void testAlarmDialog::typedAsWritten()
+{
+    QFETCH(QString, date);
+    QFETCH(QString, time);
+    Opened dialog(alarmOfTomorrow());
+    QVERIFY(QTest::qWaitForWindowActive(&dialog.dialog));
+    dialog.date()->setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(dialog.date(), date);
+    QCOMPARE(dialog.date()->date(), QDate(2032, 6, date.startsWith(u"06") ? 20 : 2));
+    dialog.time()->setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(dialog.time(), time);
+    QCOMPARE(dialog.time()->time(), time.startsWith(u'9') ? QTime(9, 5) : QTime(14, 45, 9));
+    // Wherever the caret is, digits overwrite.
+    QTest::keyClick(dialog.time(), Qt::Key_Home);
+    QTest::keyClicks(dialog.time(), u"07"_s);
+    QCOMPARE(dialog.time()->time().hour(), 7);
 }
 
 QTEST_MAIN(testAlarmDialog)

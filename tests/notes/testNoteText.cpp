@@ -17,6 +17,7 @@ private slots:
     void drawsWhatTheTextBoxDraws_data();
     void drawsWhatTheTextBoxDraws();
     void drawsWhereItIsScrolledTo();
+    void editsWhereItIsScrolledTo();
     void showsMegabytes_data();
     void showsMegabytes();
 };
@@ -89,6 +90,30 @@ void testNoteText::drawsWhereItIsScrolledTo()
     const QImage end = wheel(-1000);
     QVERIFY(end != top);
     QCOMPARE(wheel(-1), end);
+}
+
+/// A click into the text, and the end of the edit, move nothing.
+void testNoteText::editsWhereItIsScrolledTo()
+{
+    QWidget note;
+    note.resize(210, 120);
+    note.setStyleSheet(u"background: rgb(255, 255, 200)"_s);
+    NoteBody body(&note);
+    body.setGeometry(note.rect());
+    body.setLook(QFont(u"DejaVu Sans"_s, 9), NoteInk::from(0xC8FFFF, 0));
+    const QString text =
+        u"a line that is long enough to be wrapped once at the least\r\n\r\nand one more\r\n"_s.repeated(20);
+    body.setText(text);
+    note.show();
+    auto *shown = note.findChild<NoteText *>();
+    for (const TextPlace place : {TextPlace{3, 1}, TextPlace{1000, 0}}) {
+        shown->scrollTo(place);
+        const QImage display = note.grab().toImage();
+        body.BeginTextEditing(text);
+        QCOMPARE(note.grab().toImage(), display);
+        body.commit();
+        QCOMPARE(note.grab().toImage(), display);
+    }
 }
 
 void testNoteText::showsMegabytes_data()

@@ -6,6 +6,7 @@
 #include "dialogs/controls/showModally.h"
 #include "dialogs/frmSettings.h"
 #include "notes/commands/noteTitles.h"
+#include "notes/parts/NoteTitle.h"
 #include "notes/parts/TextShortening.h"
 #include "security/frmPwdSettings.h"
 #include "shell/common/Program.h"
@@ -57,7 +58,7 @@ void openSettings(Program &program, qint32 tag, QWidget *owner)
 {
     const auto caption = [](frmSettings &dialog, const clsNoteProps &record) {
         const QString title =
-            textShortening::shortened(noteTitles::title(record), dialog.sizeHint().width() / 3, dialog.font());
+            textShortening::shortened(noteTitles::title(record), dialog.sizeHint().width() / 3, NoteTitle::font());
         dialog.setWindowTitle(QCoreApplication::translate("noteDialogs", "Settings for '") + title + u'\'' +
                               QCoreApplication::translate("noteDialogs", " - Quillets"));
     };

@@ -4,6 +4,7 @@
 
 #include "notes/parts/TextShortening.h"
 #include "platform/Prompts.h"
+#include "security/frmEnterPwd.h"
 #include "shell/common/Program.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,12 @@ QString title(const clsNoteProps &note)
 QString shortTitle(const clsNoteProps &note, const QFont &font)
 {
     return textShortening::shortened(title(note), Twips::design(ShortTitleWidth), font);
+}
+
+QString promptTitle(const clsNoteProps &note, int reserve)
+{
+    return textShortening::shortened(title(note), frmEnterPwd::descriptionWidth() - Twips::design(reserve),
+                                     frmEnterPwd::descriptionFont());
 }
 
 bool take(Program &program, clsNoteProps &note, const QString &typed, bool insist, QWidget *owner)

@@ -17,6 +17,10 @@ namespace noteTitles
 QString title(const clsNoteProps &note);
 /// Short enough for a sentence.
 QString shortTitle(const clsNoteProps &note, const QFont &font);
+/// Short enough for the password prompt, with so many design twips to spare.
+QString promptTitle(const clsNoteProps &note, int reserve);
+/// Twips that the prompt of an edit of the title spares.
+inline constexpr int PromptReserve = 30;
 /// Takes what was typed. False for a text of blanks: the title stays, and where `insist` is true a box says why; the
 /// note may be gone when this returns.
 bool take(Program &program, clsNoteProps &note, const QString &typed, bool insist, QWidget *owner);

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace
 {
@@ -69,7 +70,9 @@ void LockOverlay::setInk(const QColor &ink, const QColor &paper)
 bool LockOverlay::eventFilter(QObject *, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonRelease) {
-        emit clicked();
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->button() == Qt::LeftButton && m_label->rect().contains(mouse->position().toPoint()))
+            emit clicked();
         return true;
     }
     if (event->type() != QEvent::KeyPress)

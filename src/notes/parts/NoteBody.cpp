@@ -134,6 +134,8 @@ void NoteBody::BeginTextEditing(const QString &text)
         m_textBox->setNoteText(text);
     m_textBox->moveCursor(QTextCursor::End);
     m_textBox->setFocus(Qt::MouseFocusReason);
+    // Nothing moves under the pointer; what is typed comes into sight at the caret.
+    m_textBox->scrollTo(m_text->place());
     emit editingChanged(true);
 }
 
@@ -144,6 +146,7 @@ void NoteBody::commit()
     m_editing = false;
     const QString text = m_textBox->noteText();
     setText(text);
+    m_text->scrollTo(m_textBox->place());
     showLayers();
     emit editingChanged(false);
     emit committed(text);

@@ -10,6 +10,7 @@ struct NoteInk
 {
     QColor paper;
     QColor ink;
+    QColor buttonInk;  ///< Of the pictures, which are seen on the bare paper whatever lies behind the text.
     QColor faintInk;   ///< The date and other asides.
     QColor titleStrip; ///< A touch darker than the paper, lighter on a dark note.
     QColor titleLine;

@@ -20,6 +20,7 @@ constexpr qreal NarrowestLetter = 2;
 constexpr qsizetype SpareCharacters = 4096;
 constexpr int StepsPerNotch = 120;
 constexpr int LinesPerNotch = 3;
+constexpr int LastReachable = 20'000;
 
 bool endsParagraph(QChar c)
 {
@@ -46,6 +47,7 @@ void NoteText::setCaption(const QString &caption)
     setText(caption);
     m_shown = modForms::shownCaption(caption);
     setAccessibleName(m_shown);
+    m_firstLine = 0;
     m_scroll = 0;
     forget();
 }
@@ -114,7 +116,7 @@ void NoteText::paintEvent(QPaintEvent *)
     layOutTo(m_scroll + height());
     QPainter painter(this);
     painter.setPen(m_ink);
-    painter.setClipRect(rect().marginsRemoved({Air.left(), m_scroll > 0 ? 0 : Air.top(), Air.right(), 1}));
+    painter.setClipRect(rect().marginsRemoved({Air.left(), Air.top(), Air.right(), 1}));
     const QPointF origin(Air.left(), Air.top() - m_scroll);
     for (const Paragraph &paragraph : m_paragraphs) {
         const qreal top = paragraph.top - m_scroll;
@@ -143,13 +145,79 @@ void NoteText::mousePressEvent(QMouseEvent *event)
     emit pressed(event->button(), event->globalPosition().toPoint());
 }
 
+int NoteText::linesAbove(qreal y) const
+{
+    int count = 0;
+    for (const Paragraph &paragraph : m_paragraphs) {
+        if (paragraph.top >= y)
+            break;
+        for (int i = 0; i < paragraph.layout->lineCount(); ++i)
+            count += paragraph.top + paragraph.layout->lineAt(i).y() < y ? 1 : 0;
+    }
+    return count;
+}
+
+qreal NoteText::topOfLine(int line)
+{
+    int before = 0;
+    for (size_t i = 0;; ++i) {
+        if (i == m_paragraphs.size())
+            layOutTo(m_height + 1);
+        if (i == m_paragraphs.size())
+            return m_height;
+        const QTextLayout &layout = *m_paragraphs[i].layout;
+        if (line < before + layout.lineCount())
+            return m_paragraphs[i].top + layout.lineAt(line - before).y();
+        before += layout.lineCount();
+    }
+}
+
+void NoteText::scrollToLine(int line)
+{
+    // As far as the text box goes, to a pixel.
+    const qreal visible = height() - Air.top() - Air.bottom() - 1;
+    const qreal top = topOfLine(qMax(0, line));
+    layOutTo(top + height());
+    const qreal lowest = qMax(0.0, m_height - visible);
+    m_firstLine = top <= lowest ? qMax(0, line) : linesAbove(lowest);
+    m_scroll = std::round(topOfLine(m_firstLine));
+    update();
+}
+
+TextPlace NoteText::place() const
+{
+    TextPlace place{0, m_firstLine};
+    for (const Paragraph &paragraph : m_paragraphs) {
+        if (place.line < paragraph.layout->lineCount())
+            break;
+        place.line -= paragraph.layout->lineCount();
+        ++place.paragraph;
+    }
+    return place;
+}
+
+void NoteText::scrollTo(TextPlace place)
+{
+    // Every paragraph above it is laid out.
+    if (place.paragraph > LastReachable)
+        place = {};
+    int line = place.line;
+    for (size_t i = 0; i < static_cast<size_t>(place.paragraph); ++i) {
+        if (i == m_paragraphs.size())
+            layOutTo(m_height + 1);
+        if (i == m_paragraphs.size())
+            break;
+        line += m_paragraphs[i].layout->lineCount();
+    }
+    scrollToLine(line);
+}
+
 void NoteText::wheelEvent(QWheelEvent *event)
 {
-    const qreal notches = event->angleDelta().y() / static_cast<qreal>(StepsPerNotch);
-    const qreal target = m_scroll - notches * LinesPerNotch * QFontMetricsF(font()).lineSpacing();
-    const qreal visible = height() - Air.top() - Air.bottom();
-    layOutTo(qMax(0.0, target) + height());
-    m_scroll = std::round(std::clamp(target, 0.0, qMax(0.0, m_height - visible)));
     event->accept();
-    update();
+    m_turned += event->angleDelta().y() * LinesPerNotch;
+    const int lines = m_turned / StepsPerNotch;
+    m_turned -= lines * StepsPerNotch;
+    if (lines != 0)
+        scrollToLine(m_firstLine - lines);
 }

@@ -9,6 +9,13 @@
 
 class QTextLayout;
 
+/// A line of a text as it is wrapped: the paragraph it belongs to and which of its lines it is, both from 0.
+struct TextPlace
+{
+    int paragraph = 0;
+    int line = 0;
+};
+
 /// Shows a note's text the way its text box would, letter for letter at the same place, without the cost of a text
 /// box. The caption is the text as modForms::DoubleFirstAmpersand gives it. Only what is visible is laid out, however
 /// long the text is; the wheel scrolls.
@@ -22,6 +29,11 @@ public:
 
     void setCaption(const QString &caption);
     void setInk(const QColor &ink);
+    /// The line at the top.
+    TextPlace place() const;
+    /// Scrolls so that the line is at the top, or as far as the text goes; to the beginning for a line so far down
+    /// that it would take its time.
+    void scrollTo(TextPlace place);
     /// Air around the text, the same for the text box.
     static QMargins air();
 
@@ -51,6 +63,11 @@ private:
     void layOutTo(qreal bottom);
     Paragraph laidOut(const QString &text, qreal top) const;
     qsizetype mostCharacters() const;
+    /// The lines whose tops lie above `y`, of what is laid out.
+    int linesAbove(qreal y) const;
+    /// Where the line begins; the end of the text for one behind it.
+    qreal topOfLine(int line);
+    void scrollToLine(int line);
 
     QString m_shown;
     QColor m_ink = Qt::black;
@@ -58,5 +75,7 @@ private:
     qsizetype m_next = 0; ///< Where the first paragraph that is not laid out begins.
     bool m_complete = false;
     qreal m_height = 0; ///< Of what is laid out.
-    qreal m_scroll = 0;
+    int m_firstLine = 0;
+    qreal m_scroll = 0; ///< Top of that line.
+    int m_turned = 0;   ///< Of the wheel, less than a notch.
 };

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteTextBox.h"
 
-#include "notes/parts/NoteText.h"
+#include "notes/parts/focusLoss.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <QTextBlock>
 
 namespace
 {
@@ -51,10 +53,26 @@ QString NoteTextBox::noteText() const
     return text;
 }
 
+// The scroll bar counts lines, one for each paragraph that was not laid out yet.
+TextPlace NoteTextBox::place() const
+{
+    const QTextBlock first = firstVisibleBlock();
+    return {first.blockNumber(), verticalScrollBar()->value() - first.firstLineNumber()};
+}
+
+void NoteTextBox::scrollTo(TextPlace place)
+{
+    const QTextBlock block = document()->findBlockByNumber(place.paragraph);
+    if (block.isValid())
+        verticalScrollBar()->setValue(block.firstLineNumber() + place.line);
+}
+
 void NoteTextBox::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason)
+    if (event->reason() == Qt::ActiveWindowFocusReason)
+        onceFocusStaysLost(this, [this] { emit left(); });
+    else if (event->reason() != Qt::PopupFocusReason)
         emit left();
 }
 

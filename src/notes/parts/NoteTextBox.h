@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "notes/parts/NoteText.h"
+
 #include <QPlainTextEdit>
 
 /// The box in which a note's text is edited. It tells when it is left; whoever owns it then takes the text.
@@ -17,6 +19,10 @@ public:
     QString noteText() const;
     /// Puts a text in, the caret after its last character.
     void setNoteText(const QString &text);
+
+    /// The line at the top, as NoteText counts.
+    TextPlace place() const;
+    void scrollTo(TextPlace place);
 
 signals:
     /// The box lost the focus to something other than its own menu, or Escape was pressed.

@@ -3,22 +3,23 @@
 #include "notes/parts/NoteTitle.h"
 
 #include "notes/parts/TextShortening.h"
+#include "notes/parts/focusLoss.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+
+#include <algorithm>
 
 namespace
 {
 
 constexpr qreal TitlePoints = 9.5;
 constexpr int LabelIndent = 0;
+constexpr int LeastEditorWidth = 60; ///< It lies over the buttons of a note too narrow for a title.
 
-QFont titleFont()
+bool breaksLine(QChar c)
 {
-    QFont font(QStringLiteral("Times New Roman"));
-    font.setStyleHint(QFont::Serif);
-    font.setPointSizeF(TitlePoints);
-    return font;
+    return c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
 }
 
 QPalette textPalette(QPalette palette, const QColor &ink, const QColor &paper)
@@ -36,7 +37,7 @@ TitleLabel::TitleLabel(const QString &name, QWidget *parent) : QLabel(parent)
     setObjectName(name);
     setTextFormat(Qt::PlainText);
     setIndent(LabelIndent);
-    setFont(titleFont());
+    setFont(NoteTitle::font());
 }
 
 void TitleLabel::setInk(const QColor &ink)
@@ -69,13 +70,27 @@ void TitleLabel::mouseDoubleClickEvent(QMouseEvent *event)
         emit doubleClicked();
 }
 
+QFont NoteTitle::font()
+{
+    QFont font(QStringLiteral("Times New Roman"));
+    font.setStyleHint(QFont::Serif);
+    font.setPointSizeF(TitlePoints);
+    return font;
+}
+
+QString NoteTitle::shownTitle() const
+{
+    const QString shown = m_label->text();
+    return shown.isEmpty() || shown == textShortening::Dots ? m_title : shown;
+}
+
 NoteTitle::NoteTitle(QWidget *strip) : QObject(strip), m_label(new TitleLabel(QStringLiteral("lblTitle"), strip)) {}
 
 void NoteTitle::setGeometry(const QRect &rect)
 {
     m_label->setGeometry(rect);
     if (m_editor != nullptr)
-        m_editor->setGeometry(rect);
+        m_editor->setGeometry(editorRect());
     showFitting();
 }
 
@@ -98,13 +113,23 @@ void NoteTitle::setInk(const QColor &ink, const QColor &paper)
 
 void NoteTitle::setTitle(const QString &title)
 {
+    // Titles come from files too: one line, whatever they hold.
     m_title = title;
+    std::replace_if(m_title.begin(), m_title.end(), breaksLine, QChar(u' '));
     showFitting();
 }
 
+/// A title without any room keeps what it showed last; it is still printed.
 void NoteTitle::showFitting()
 {
-    m_label->setText(textShortening::shortened(m_title, m_label->width(), m_label->font()));
+    if (m_label->width() > 0)
+        m_label->setText(textShortening::shortened(m_title, m_label->width(), m_label->font()));
+}
+
+QRect NoteTitle::editorRect() const
+{
+    const QRect place = m_label->geometry();
+    return {place.topLeft(), place.size().expandedTo({LeastEditorWidth, 0})};
 }
 
 void NoteTitle::makeEditor()
@@ -116,7 +141,7 @@ void NoteTitle::makeEditor()
     m_editor->setFont(m_label->font());
     m_editor->setTextMargins(-2, 0, 0, 0);
     m_editor->setMaxLength(INT_MAX);
-    m_editor->setGeometry(m_label->geometry());
+    m_editor->setGeometry(editorRect());
     m_editor->installEventFilter(this);
     m_editor->setPalette(textPalette(m_editor->palette(), m_ink, m_paper));
 }
@@ -128,6 +153,7 @@ void NoteTitle::beginEditing(const QString &text)
     m_editing = true;
     m_editor->setText(text);
     setVisible(m_visible);
+    m_editor->raise();
     m_editor->setFocus(Qt::OtherFocusReason);
     m_editor->selectAll();
 }
@@ -160,12 +186,19 @@ void NoteTitle::giveUp()
         closeEditor();
 }
 
-bool NoteTitle::eventFilter(QObject *watched, QEvent *event)
+void NoteTitle::editorLeft(Qt::FocusReason reason)
 {
-    if (watched == m_editor && event->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason) {
+    if (reason == Qt::ActiveWindowFocusReason)
+        onceFocusStaysLost(m_editor, [this] { endEditing(); });
+    else if (reason != Qt::PopupFocusReason)
         // The line edit itself handles the event first; its owner may open a box.
         QMetaObject::invokeMethod(this, &NoteTitle::endEditing, Qt::QueuedConnection);
+}
+
+bool NoteTitle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_editor && event->type() == QEvent::FocusOut) {
+        editorLeft(static_cast<QFocusEvent *>(event)->reason());
     } else if (watched == m_editor && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Escape)

@@ -36,6 +36,7 @@ class NoteTitle final : public QObject
     Q_OBJECT
 
 public:
+    static QFont font();
     /// The label becomes a child of `strip`.
     explicit NoteTitle(QWidget *strip);
 
@@ -45,8 +46,10 @@ public:
     void setInk(const QColor &ink, const QColor &paper);
     /// The whole title; the label shows as much of it as fits.
     void setTitle(const QString &title);
-    /// What the label shows.
-    QString shownTitle() const { return m_label->text(); }
+    /// What the label shows; the whole title where there is no room for any of it.
+    QString shownTitle() const;
+    /// The beginning of the title, for the window's own name.
+    QString windowTitle() const { return m_title.left(LongestWindowTitle); }
 
     /// Opens the editor with the text, all of it selected.
     void beginEditing(const QString &text);
@@ -66,8 +69,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    static constexpr qsizetype LongestWindowTitle = 200;
+
     void makeEditor();
     void closeEditor();
+    void editorLeft(Qt::FocusReason reason);
+    QRect editorRect() const;
     void showFitting();
 
     TitleLabel *m_label;

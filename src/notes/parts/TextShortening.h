@@ -8,6 +8,8 @@
 namespace textShortening
 {
 
+inline constexpr QLatin1String Dots("...");
+
 /// The text itself where it is not wider than `maxWidth` pixels in the font; else its longest beginning that fits
 /// with "..." behind it; "..." when not even that fits. Measures no more of a long text than could fit on a screen.
 QString shortened(const QString &text, int maxWidth, const QFont &font);
