@@ -5,6 +5,8 @@
 #include "model/fileReplace.h"
 #include "model/modStreams.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -30,11 +32,36 @@ Outcome<Done, QString> settleAside(DataFileState &state)
     return Done{};
 }
 
+/// What another program has written meanwhile, a restored backup or a synchronised file, is not lost.
+Outcome<Done, QString> keepForeignFile(DataFileState &state)
+{
+    const auto now = modFileIO::stampOf(state.paths.DataFile);
+    if (!now || !state.stamp || *now == *state.stamp)
+        return Done{};
+    const auto kept = keepAside(state.paths.DataFile, u"changed"_s, QDateTime::currentDateTime());
+    if (!kept)
+        return Failure{kept.error()};
+    state.keptMeanwhile.append(kept.value());
+    return Done{};
+}
+
+/// The folder may have been removed.
+void ensureFolder(const QString &path)
+{
+    constexpr auto OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    if (!QFileInfo::exists(path) && QDir().mkdir(path))
+        QFile::setPermissions(path, OwnerOnly);
+}
+
 Outcome<Done, QString> replaceDataFile(DataFileState &state)
 {
     const QScopedValueRollback saving(state.SavingData, true);
-    auto written = replaceFile(state.paths.DataFile, state.image.bytes());
+    ensureFolder(state.paths.DataFolder);
+    auto written = keepForeignFile(state);
+    if (written)
+        written = replaceFile(state.paths.DataFile, state.image.bytes());
     if (written) {
+        state.stamp = modFileIO::stampOf(state.paths.DataFile);
         state.unsaved = false;
         ++state.replacements;
     }
@@ -42,6 +69,12 @@ Outcome<Done, QString> replaceDataFile(DataFileState &state)
 }
 
 } // namespace
+
+std::optional<DataFileState::Stamp> modFileIO::stampOf(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() ? std::optional(DataFileState::Stamp{file.size(), file.lastModified()}) : std::nullopt;
+}
 
 WriteResult modFileIO::WriteNoteRecord(DataFileState &state, const clsNoteProps &note, bool keep)
 {

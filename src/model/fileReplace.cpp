@@ -80,8 +80,9 @@ Outcome<Done, QString> replaceFile(const QString &path, QByteArrayView bytes)
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Failure{file.errorString()};
     if (!file.setPermissions(OwnerOnly) || !writeAll(file, bytes)) {
+        const QString reason = file.errorString();
         file.cancelWriting();
-        return Failure{file.errorString()};
+        return Failure{reason};
     }
     if (!file.commit())
         return Failure{file.errorString()};

@@ -77,6 +77,11 @@ QString textValues::fromLong(qint32 value)
 QString textValues::fromSingle(float value)
 {
     std::array<char, 32> text; // No Single takes more than 16 characters.
-    const std::to_chars_result written = std::to_chars(text.data(), text.data() + text.size(), value);
+    // Plain numbers stay plain, as a person would type them.
+    constexpr float LargestPlain = 1e7F;
+    char *const end = text.data() + text.size();
+    const std::to_chars_result written = std::abs(value) < LargestPlain && std::abs(value) >= 1
+                                             ? std::to_chars(text.data(), end, value, std::chars_format::fixed)
+                                             : std::to_chars(text.data(), end, value);
     return QString::fromLatin1(text.data(), written.ptr - text.data());
 }

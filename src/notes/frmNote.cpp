@@ -141,6 +141,15 @@ std::vector<qint32> frmNote::changedTags() const
     return m_record.SaveTag == 1 ? std::vector{m_record.Tag} : std::vector<qint32>();
 }
 
+void frmNote::rescue(const std::function<void(const clsNoteProps &)> &write) const
+{
+    clsNoteProps record = m_record;
+    if (m_body->isEditing())
+        record.Data = m_body->typedText();
+    if (m_record.SaveTag == 1 || m_body->isEditing())
+        write(record);
+}
+
 void frmNote::markUnsaved(qint32 tag)
 {
     if (tag == m_record.Tag)

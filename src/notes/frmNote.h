@@ -74,6 +74,7 @@ public:
     void lockNote(qint32) override { lockform(); }
     void recordChanged(qint32 tag) override;
     std::vector<qint32> changedTags() const override;
+    void rescue(const std::function<void(const clsNoteProps &)> &write) const override;
     void markUnsaved(qint32 tag) override;
     clsNoteProps *recordOf(qint32 tag) override { return tag == m_record.Tag ? &m_record : nullptr; }
 

@@ -217,6 +217,8 @@ void frmNoteStack::keepPlace()
     QSettings settings(placeFile(m_program), QSettings::IniFormat);
     settings.setValue(QStringLiteral("NoteStack/geometry"), saveGeometry());
     settings.setValue(QStringLiteral("NoteStack/shown"), isVisible());
+    settings.sync();
+    QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
 }
 
 bool frmNoteStack::wasShown(const Program &program)

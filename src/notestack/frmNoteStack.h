@@ -57,6 +57,7 @@ public:
     void keepPlace() override;
     void commitEditing() override;
     std::vector<qint32> changedTags() const override;
+    void rescue(const std::function<void(const clsNoteProps &)> &write) const override;
     void markUnsaved(qint32 tag) override;
     clsNoteProps *recordOf(qint32 tag) override;
     void lockNote(qint32 tag) override;

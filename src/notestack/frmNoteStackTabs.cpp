@@ -269,18 +269,21 @@ void frmNoteStack::lockNote(qint32 tag)
 /// A list of all titles for when there are more tabs than fit.
 void frmNoteStack::showTabList()
 {
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("mnuTabList"));
+    const QPointer<QMenu> menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("mnuTabList"));
     for (int i = 0; i < noteCount(); ++i) {
-        QAction *action = menu.addAction(m_tabs->tabText(i));
+        QAction *action = menu->addAction(m_tabs->tabText(i));
         action->setCheckable(true);
         action->setChecked(i == m_tabs->currentIndex());
         action->setData(m_notes[static_cast<size_t>(i)]->record.Tag);
     }
-    const QAction *picked = menu.exec(m_list->mapToGlobal(QPoint(0, m_list->height())));
-    if (picked == nullptr)
+    const QAction *picked = menu->exec(m_list->mapToGlobal(QPoint(0, m_list->height())));
+    // The window may have gone meanwhile, and the menu with it.
+    if (menu == nullptr)
         return;
-    if (const auto index = indexOf(picked->data().toInt()))
+    const qint32 tag = picked != nullptr ? picked->data().toInt() : 0;
+    menu->deleteLater();
+    if (const auto index = indexOf(tag); index && tag != 0)
         m_tabs->setCurrentIndex(static_cast<int>(*index));
 }
 
@@ -306,6 +309,17 @@ std::vector<qint32> frmNoteStack::changedTags() const
         if (note->record.SaveTag == 1)
             tags.push_back(note->record.Tag);
     return tags;
+}
+
+void frmNoteStack::rescue(const std::function<void(const clsNoteProps &)> &write) const
+{
+    for (const auto &note : m_notes) {
+        clsNoteProps record = note->record;
+        if (note->body->isEditing())
+            record.Data = note->body->typedText();
+        if (record.SaveTag == 1 || note->body->isEditing())
+            write(record);
+    }
 }
 
 void frmNoteStack::markUnsaved(qint32 tag)

@@ -9,6 +9,7 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -40,34 +41,42 @@ QFont selectable(const QFont &font)
     return result;
 }
 
+/// Runs a chooser; what it is asked for counts only when it was accepted. Its owner may go while it is open, and takes
+/// it along.
+template <typename Dialog, typename Result>
+std::optional<Result> resultOf(Dialog *made, const QString &name, Result (*result)(const Dialog &))
+{
+    const QPointer<Dialog> dialog = made;
+    dialog->setObjectName(name);
+    windowStacking::keepAboveNotes(*dialog);
+    const bool accepted = dialog->exec() == QDialog::Accepted && dialog != nullptr;
+    const auto chosen = accepted ? std::optional(result(*dialog)) : std::nullopt;
+    delete dialog;
+    return chosen;
+}
+
 } // namespace
 
 std::optional<QString> DesktopChoosers::openFile(const FileRequest &request, QWidget *owner)
 {
-    QFileDialog dialog(owner, request.title);
-    dialog.setObjectName(QStringLiteral("FileChooser"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setNameFilters(request.filters);
+    auto *dialog = new QFileDialog(owner, request.title);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(request.filters);
     if (!request.current.isEmpty())
-        dialog.selectFile(request.current);
-    windowStacking::keepAboveNotes(dialog);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return dialog.selectedFiles().constFirst();
+        dialog->selectFile(request.current);
+    const auto chosen = resultOf<QFileDialog, QStringList>(
+        dialog, QStringLiteral("FileChooser"), [](const QFileDialog &done) { return done.selectedFiles(); });
+    return chosen && !chosen->isEmpty() ? std::optional(chosen->constFirst()) : std::nullopt;
 }
 
 std::optional<QColor> DesktopChoosers::colour(const QColor &current, QWidget *owner)
 {
-    QColorDialog dialog(current, owner);
-    dialog.setObjectName(QStringLiteral("ColourChooser"));
-    windowStacking::keepAboveNotes(dialog);
-    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedColor()) : std::nullopt;
+    return resultOf<QColorDialog, QColor>(new QColorDialog(current, owner), QStringLiteral("ColourChooser"),
+                                          [](const QColorDialog &done) { return done.selectedColor(); });
 }
 
 std::optional<QFont> DesktopChoosers::font(const QFont &current, QWidget *owner)
 {
-    QFontDialog dialog(selectable(current), owner);
-    dialog.setObjectName(QStringLiteral("FontChooser"));
-    windowStacking::keepAboveNotes(dialog);
-    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.selectedFont()) : std::nullopt;
+    return resultOf<QFontDialog, QFont>(new QFontDialog(selectable(current), owner), QStringLiteral("FontChooser"),
+                                        [](const QFontDialog &done) { return done.selectedFont(); });
 }

@@ -27,21 +27,23 @@ QMessageBox::Icon iconOf(Message::Icon icon)
 
 Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
 {
-    QMessageBox box(owner != nullptr && owner->isVisible() ? owner : nullptr);
-    box.setObjectName(QStringLiteral("MessageBox"));
-    box.setWindowTitle(message.caption);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(message.text);
-    box.setIcon(iconOf(message.icon));
+    // The owner may go while the box is open, and takes it along.
+    const QPointer<QMessageBox> box = new QMessageBox(owner != nullptr && owner->isVisible() ? owner : nullptr);
+    box->setObjectName(QStringLiteral("MessageBox"));
+    box->setWindowTitle(message.caption);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(message.text);
+    box->setIcon(iconOf(message.icon));
     const bool cancel = message.buttons == Message::Buttons::OkCancel;
-    box.setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel
-                                  : QMessageBox::StandardButtons(QMessageBox::Ok));
-    box.setDefaultButton(QMessageBox::Ok);
-    windowStacking::keepAboveNotes(box);
+    box->setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel
+                                   : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box->setDefaultButton(message.isRash ? QMessageBox::Cancel : QMessageBox::Ok);
+    windowStacking::keepAboveNotes(*box);
     const QPointer<QWidget> window = owner;
-    const Answer answer = box.exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+    const bool isOk = box->exec() == QMessageBox::Ok && box != nullptr;
+    delete box;
     // Window managers give the focus to a window of the task bar, where notes are not.
     if (window != nullptr && window->isVisible())
         window->activateWindow();
-    return answer;
+    return isOk ? Answer::Ok : Answer::Cancel;
 }

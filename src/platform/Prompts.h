@@ -25,6 +25,7 @@ struct Message
     QString caption = QStringLiteral("Quillets");
     Icon icon = Icon::None;
     Buttons buttons = Buttons::Ok;
+    bool isRash = false; ///< OK gives something up: Cancel is what the Enter key means.
 
     bool operator==(const Message &) const = default;
 };

@@ -15,5 +15,7 @@ public:
     [[nodiscard]] bool acquire();
 
 private:
+    void removeNobodysLock();
+
     QLockFile m_lock;
 };

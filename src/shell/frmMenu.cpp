@@ -145,10 +145,11 @@ void frmMenu::makeTray()
     for (const Entry &entry : Entries) {
         QAction *action = m_popup->addAction(tr(entry.caption));
         action->setObjectName(QLatin1String(entry.name));
-        connect(action, &QAction::triggered, this, [this, command = entry.command] { run(command); });
+        connect(action, &QAction::triggered, this, [this, command = entry.command] { runFromTray(command); });
     }
     m_tray = new TrayIcon(m_program.pictures().programIcon(), m_popup, this);
-    connect(m_tray, &TrayIcon::doubleClicked, this, [this] { run(Command::New); });
+    connect(m_tray, &TrayIcon::doubleClicked, this, [this] { runFromTray(Command::New); });
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &frmMenu::comeBackWithoutTray);
     m_program.forms.changed = [this] { QMetaObject::invokeMethod(this, &frmMenu::showTip, Qt::QueuedConnection); };
 }
 
@@ -163,6 +164,16 @@ void frmMenu::run(Command command)
     perform(command);
     if (self != nullptr)
         m_pressGuard = false;
+}
+
+/// The icon can be used while a command of the panel has a dialog open; what opens one itself then waits its turn.
+void frmMenu::runFromTray(Command command)
+{
+    constexpr std::array Independent{Command::New, Command::Show, Command::Save, Command::Help, Command::Exit};
+    if (!m_pressGuard)
+        run(command);
+    else if (!m_program.Exiting && std::find(Independent.begin(), Independent.end(), command) != Independent.end())
+        perform(command);
 }
 
 void frmMenu::perform(Command command)
@@ -274,12 +285,23 @@ void frmMenu::minimised()
         return;
     showTip();
     m_tray->setVisible(true);
-    if (TrayIcon::isThere())
+    m_inTray = TrayIcon::isThere();
+    if (m_inTray)
         hide();
+}
+
+/// The tray may have gone, with the icon that led back here.
+void frmMenu::comeBackWithoutTray()
+{
+    if (!m_inTray || TrayIcon::isThere() || m_program.Exiting)
+        return;
+    m_inTray = false;
+    showMinimized();
 }
 
 void frmMenu::showMenu()
 {
+    m_inTray = false;
     m_tray->setVisible(false);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
@@ -320,5 +342,5 @@ void frmMenu::closeEvent(QCloseEvent *event)
         return;
     m_program.Exiting = true;
     modForms::CloseAllWindows(m_program);
-    QCoreApplication::quit();
+    QCoreApplication::exit();
 }

@@ -59,10 +59,12 @@ private:
     void makeGrip();
     void layOutLogo(int width);
     void run(Command command);
+    void runFromTray(Command command);
     void perform(Command command);
     void openOptions();
     void openAbout();
     void minimised();
+    void comeBackWithoutTray();
     void showMenu();
     void showTip();
 
@@ -76,4 +78,5 @@ private:
     QMenu *m_popup = nullptr; // mnuPopup
     TrayIcon *m_tray = nullptr;
     bool m_pressGuard = false; ///< A command is under way.
+    bool m_inTray = false;     ///< Hidden, with the icon as the way back.
 };

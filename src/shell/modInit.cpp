@@ -10,6 +10,7 @@
 #include "platform/Clock.h"
 #include "platform/DisplayPlatform.h"
 #include "platform/EndSignals.h"
+#include "platform/ExitRescue.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Printing.h"
 #include "platform/SingleInstance.h"
@@ -21,8 +22,11 @@
 #include "shell/frmSplash.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QScopedValueRollback>
 #include <QScreen>
+#include <QSessionManager>
 
 using namespace std::chrono_literals;
 
@@ -66,17 +70,58 @@ void nameApplication()
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
-/// What ends the program from outside saves the notes first.
+/// Answers what is open with Cancel, the innermost first.
+void closeModalWindows()
+{
+    constexpr int Deepest = 16;
+    for (int i = 0; i < Deepest; ++i) {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (modal == nullptr)
+            return;
+        if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+    }
+}
+
+/// What ends the program from outside saves the notes first. Nobody may be there to answer a box.
 void saveWhenEnded(Program &program, EndSignals &signals_)
 {
     QObject::connect(&signals_, &EndSignals::endRequested, qApp, [&program] {
-        modForms::SaveAllNotes(program);
         program.Exiting = true;
+        modForms::SaveAllNotes(program);
         modForms::CloseAllWindows(program);
-        QCoreApplication::quit();
+        closeModalWindows();
+        QCoreApplication::exit();
     });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
-                     [&program](QSessionManager &) { modForms::SaveAllNotes(program); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [&program](QSessionManager &manager) {
+        const bool mayAsk = manager.allowsInteraction();
+        const QScopedValueRollback told(program.saveFailureTold, program.saveFailureTold || !mayAsk);
+        modForms::SaveAllNotes(program);
+        if (mayAsk)
+            manager.release();
+    });
+}
+
+/// One box for all; a failed save that follows has the same reason.
+void tellOfLoad(Program &program, const LoadReport &report)
+{
+    QStringList lines;
+    if (report.undecodable > 0)
+        lines.append(
+            QCoreApplication::translate("modInit", "Notes that could not be read: %1.").arg(report.undecodable));
+    if (!report.problem.isEmpty())
+        lines.append(report.problem);
+    if (!report.keptAside.isEmpty()) {
+        lines.append(
+            QCoreApplication::translate("modInit", "The stored notes were damaged or missing.  A copy was kept:"));
+        lines.append(report.keptAside);
+    }
+    if (lines.isEmpty() || program.Exiting)
+        return;
+    program.saveFailureTold = program.saveFailureTold || !report.problem.isEmpty();
+    program.prompts().tell({lines.join(u'\n'), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
 }
 
 void showPanel(Program &program, frmSplash &splash, frmMenu &panel)
@@ -105,10 +150,14 @@ int run(Program &program)
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));
     restoreNotes(program, splash);
+    const ExitRescue rescue([&program] { modForms::rescueNotes(program); });
     if (program.Exiting)
         return 0;
     modTimers::SetAutoSave(program, true);
     showPanel(program, *splash, *panel);
+    // Told to end while a box was open: an event loop that has not begun cannot be left.
+    if (program.Exiting)
+        return 0;
     if (frmNoteStack::wasShown(program))
         stack->show();
     const int result = QApplication::exec();
@@ -174,8 +223,7 @@ void restoreNotes(Program &program, frmSplash *splash)
         form->ResetAlarms();
     if (report.overLimit > 0)
         modCreateNote::tellLimit(program);
-    if (!report.problem.isEmpty())
-        program.prompts().tell({report.problem, QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
+    tellOfLoad(program, report);
 }
 
 void ExitProgram(Program &program)
@@ -190,7 +238,7 @@ void ExitProgram(Program &program)
         const QString text = QCoreApplication::translate(
             "modInit", "Some changes could not be saved and will be lost.\nEnd the program all the same?");
         if (program.prompts().ask(
-                {text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel},
+                {text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel, true},
                 panel != nullptr ? panel->window() : nullptr) != Prompts::Answer::Ok)
             return;
     }
@@ -198,7 +246,7 @@ void ExitProgram(Program &program)
     modForms::CloseAllWindows(program);
     if (panel != nullptr)
         panel->unload();
-    QCoreApplication::quit();
+    QCoreApplication::exit();
 }
 
 int Main(int argc, char *argv[])

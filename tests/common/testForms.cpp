@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "platform/Choosers.h"
+#include "platform/MessageBoxes.h"
 #include "common/PlainNote.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"
@@ -15,6 +17,7 @@ class testForms final : public QObject
 private slots:
     void init();
     void closesEveryWindow();
+    void boxesGoWithTheirOwners();
     void dialogsHideNotes();
 
 private:
@@ -52,6 +55,23 @@ void testForms::closesEveryWindow()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     for (const auto &window : windows)
         QVERIFY(window == nullptr);
+}
+
+/// Whoever goes while a box or a chooser of its own is open takes it along; nothing was answered then.
+void testForms::boxesGoWithTheirOwners()
+{
+    const auto whileOneIsOpen = [](auto ask) {
+        auto *owner = new QWidget;
+        owner->show();
+        QTimer::singleShot(0, owner, [owner] { delete owner; });
+        return ask(owner);
+    };
+    MessageBoxes boxes;
+    DesktopChoosers choosers;
+    QVERIFY(whileOneIsOpen([&](QWidget *owner) { return boxes.ask({u"text"_s}, owner); }) == Prompts::Answer::Cancel);
+    QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.colour(Qt::red, owner); }));
+    QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.font(QFont(), owner); }));
+    QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.openFile({u"title"_s, {}, {}}, owner); }));
 }
 
 void testForms::dialogsHideNotes()

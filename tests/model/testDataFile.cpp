@@ -94,6 +94,7 @@ private slots:
     void keepsDamageAside_data();
     void keepsDamageAside();
     void emptyFileDoesNotCostTheBackup();
+    void othersFileIsKept();
     void unreadableFileIsNeverWritten();
     void readOnlyFolder();
 };
@@ -231,6 +232,27 @@ void testDataFile::emptyFileDoesNotCostTheBackup()
     QCOMPARE(contents(runs.report.keptAside.first()), sampleFile("household.dat"));
     runs.start();
     QVERIFY(runs.report.keptAside.isEmpty() && runs.backup().isEmpty());
+}
+
+void testDataFile::othersFileIsKept()
+{
+    Runs runs;
+    QVERIFY(runs.save(1, u"mine"_s).kind == WriteResult::Kind::Written);
+    QVERIFY(runs.save(1, u"mine again"_s).kind == WriteResult::Kind::Written);
+    QVERIFY(runs.state.keptMeanwhile.isEmpty());
+    QFile file(runs.state.paths.DataFile);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("a file of another program") > 0);
+    file.close();
+    for (const QString &text : {u"mine too"_s, u"still mine"_s})
+        QVERIFY(runs.save(1, text).kind == WriteResult::Kind::Written);
+    QCOMPARE(runs.state.keptMeanwhile.size(), 1);
+    QFile kept(runs.state.keptMeanwhile.constFirst());
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), QByteArray("a file of another program"));
+    QVERIFY(QDir(runs.state.paths.DataFolder).removeRecursively());
+    QVERIFY(runs.save(1, u"in a new folder"_s).kind == WriteResult::Kind::Written);
+    runs.start();
+    QCOMPARE(runs.texts(), QStringList(u"in a new folder"_s));
 }
 
 void testDataFile::unreadableFileIsNeverWritten()

@@ -146,9 +146,15 @@ void testStartUp::damagedFiles_data()
 void testStartUp::damagedFiles()
 {
     QFETCH(QByteArray, file);
+    QFETCH(size_t, windows);
     m_home->setDataFile(file);
+    const bool isDamaged = !file.isEmpty() && windows < 8;
+    if (isDamaged)
+        m_test->prompts.expect(Answer::Ok);
     modInit::restoreNotes(m_test->program, nullptr);
     QTEST(m_test->program.forms.notes().size(), "windows");
+    if (isDamaged)
+        QVERIFY(m_test->prompts.last.text.contains(m_home->paths.DataFolder));
     for (Form *note : m_test->program.forms.notes())
         QVERIFY(note->window()->isVisible());
     modForms::SaveAllNotes(m_test->program);

@@ -6,6 +6,7 @@ import os
 import shutil
 import signal
 import sys
+import time
 import unittest
 
 import desktop
@@ -125,6 +126,32 @@ class TestProgram(unittest.TestCase):
                 note.click(*TITLE, times=2)
             self.assertEqual(program.end(signal.SIGKILL), -signal.SIGKILL)
             self.assertEqual(sorted(note.title for note in self.stored()), titles)
+
+    def test_display_that_goes_takes_no_note_along(self):
+        display = desktop.Display()
+        try:
+            home = desktop.Home(display, BINARY, os.path.join(DATA, "household.dat"))
+            self.addCleanup(home.close)
+            program = home.start()
+            program.window(PANEL)
+            for title in ("Wi-Fi for guests", "Shopping"):
+                note = program.window(title)
+                note.activate()
+                note.click(*BODY)
+                display.do("type", "--delay", "20", "!")
+            time.sleep(1)
+        finally:
+            display.close()
+        program.exit_code()
+        ends = {note.title: note.text[-1] for note in notefile.read(home.data_file)}
+        self.assertEqual((ends["Wi-Fi for guests"], ends["Shopping"]), ("!", "!"))
+
+    def test_told_to_end_at_a_box_of_the_start(self):
+        with open(self.home.data_file, "rb+") as file:
+            file.truncate(os.path.getsize(self.home.data_file) - 10)
+        program = self.home.start()
+        program.window("Error")
+        self.assertEqual(program.end(signal.SIGTERM), 0)
 
     def test_second_program_ends(self):
         first = self.started()

@@ -35,6 +35,8 @@ public:
     bool isEditing() const { return m_editing; }
     /// Ends an edit that is under way and tells its text.
     void commit();
+    /// While it is edited: what a commit would give.
+    QString typedText() const { return m_textBox->noteText(); }
     /// Replaces the whole text, undoable in the next edit.
     void replaceText(const QString &former, const QString &text);
     /// Nothing of the text is left in any widget.

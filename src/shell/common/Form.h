@@ -63,6 +63,9 @@ public:
     virtual void ResetAlarms() {}
     /// Puts what is being typed into the record.
     virtual void commitEditing() {}
+    /// Hands on the notes of this form that are not on the disk as they are, with what is being typed into them.
+    /// Touches no window: there may be no display any more.
+    virtual void rescue(const std::function<void(const clsNoteProps &)> &) const {}
     /// The notes of this form that are not on the disk as they are.
     virtual std::vector<qint32> changedTags() const { return {}; }
     /// A write failed: the note with this tag, if it is this form's, counts as changed again.

@@ -39,7 +39,11 @@ bool isOwnKind(const Form &form)
 
 bool endsInOneOf(QStringView path, std::initializer_list<QStringView> endings)
 {
-    const QStringView trimmed = path.trimmed();
+    QStringView trimmed = path;
+    while (trimmed.startsWith(u' '))
+        trimmed = trimmed.sliced(1);
+    while (trimmed.endsWith(u' '))
+        trimmed.chop(1);
     return trimmed.size() >= 3 &&
            std::any_of(endings.begin(), endings.end(), [&](QStringView ending) { return trimmed.endsWith(ending); });
 }

@@ -30,6 +30,8 @@ void UnhookWindow(Form &form);
 void ShowNoteWindows(Program &program);
 /// True while a window is shown that is none of the program's own five kinds.
 bool IsDialogShowing(const Program &program);
+/// Writes what is not on the disk without the help of any window, and tells nobody.
+void rescueNotes(Program &program);
 /// Hides, destroys and unloads every window but the main panel, which is hidden. Saves nothing.
 void CloseAllWindows(Program &program);
 

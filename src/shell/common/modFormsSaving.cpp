@@ -27,12 +27,27 @@ void commitAll(Program &program)
 
 void tellFailure(Program &program, const QString &reason)
 {
+    if (program.Exiting) {
+        qWarning("The notes could not be saved: %s", qUtf8Printable(reason));
+        return;
+    }
     if (std::exchange(program.saveFailureTold, true))
         return;
     const QString text = QCoreApplication::translate("Saving", "The Quillets could not be saved.\n%1\n"
                                                                "Nothing is lost as long as the program runs; it will "
                                                                "try again at the next save.");
     program.prompts().tell({text.arg(reason), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
+}
+
+void tellOfForeignFiles(Program &program)
+{
+    const QStringList kept = std::exchange(program.file.keptMeanwhile, {});
+    if (kept.isEmpty() || program.Exiting)
+        return;
+    const QString text = QCoreApplication::translate(
+        "Saving",
+        "Another program had changed the file of the notes.\nIts version was kept, before this one was saved:\n");
+    program.prompts().tell({text + kept.join(u'\n'), QStringLiteral("Quillets"), Message::Icon::Exclamation}, nullptr);
 }
 
 /// The notes that one save-all has put into the image. When the write at its end fails they count as changed again.
@@ -70,6 +85,7 @@ public:
         if (outcome) {
             if (m_program.file.readOnlyReason.isEmpty())
                 m_program.saveFailureTold = false;
+            tellOfForeignFiles(m_program);
             return;
         }
         for (Form *form : m_program.forms.loaded())
@@ -113,6 +129,7 @@ void saveNote(Program &program, clsNoteProps &note)
         program.saveFailureTold = false;
     if (result.kind == Failed)
         tellFailure(program, result.reason);
+    tellOfForeignFiles(program);
 }
 
 void removeNote(Program &program, const clsNoteProps &note)
@@ -144,6 +161,15 @@ bool SaveAllNotes(Program &program)
     run.saveStack();
     run.finish();
     return true;
+}
+
+void rescueNotes(Program &program)
+{
+    SaveBatch batch(program.file);
+    for (const Form *form : program.forms.loaded())
+        form->rescue([&program](const clsNoteProps &note) {
+            static_cast<void>(modFileIO::WriteNoteRecord(program.file, note, true));
+        });
 }
 
 bool SaveAllWithProgress(Program &program)
