@@ -98,11 +98,11 @@ qint32 createOnDesktop(Program &program, clsNoteProps record, NoteCreateMode mod
 
 } // namespace
 
-void tellLimit(Program &program)
+void tellLimit(Program &program, QWidget *owner)
 {
     program.prompts().tell({QStringLiteral("You cannot have more than 100 Quillets.\nQuillet not created."),
                             QStringLiteral("error"), Message::Icon::Critical},
-                           nullptr);
+                           owner);
 }
 
 qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteCreateMode mode)
@@ -127,10 +127,12 @@ void moveNote(Program &program, const clsNoteProps &record, bool toNoteStack, bo
     modForms::saveNote(program, *holder->recordOf(tag));
 }
 
-void createNewNote(Program &program, bool toNoteStack)
+void createNewNote(Program &program, bool toNoteStack, QWidget *owner)
 {
-    clsNoteProps record = program.NoteTemplate;
-    CreateNote(program, std::move(record), toNoteStack, NoteCreateMode::New);
+    if (program.NoteCounter >= MostNotes)
+        tellLimit(program, owner);
+    else
+        CreateNote(program, program.NoteTemplate, toNoteStack, NoteCreateMode::New);
 }
 
 } // namespace modCreateNote

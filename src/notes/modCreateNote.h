@@ -18,8 +18,8 @@ qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteC
 /// Moves a note to the other place and writes it there at once; one that was locked stays locked.
 void moveNote(Program &program, const clsNoteProps &record, bool toNoteStack, bool locked);
 /// The box that is shown at the limit.
-void tellLimit(Program &program);
+void tellLimit(Program &program, QWidget *owner = nullptr);
 /// A fresh note from the program options, on the desktop or in the NoteStack.
-void createNewNote(Program &program, bool toNoteStack);
+void createNewNote(Program &program, bool toNoteStack, QWidget *owner);
 
 } // namespace modCreateNote

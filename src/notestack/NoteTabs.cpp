@@ -5,6 +5,7 @@
 #include "notes/parts/TextShortening.h"
 #include "platform/toolTips.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -79,6 +80,16 @@ QSize NoteTabs::tabSizeHint(int index) const
 QSize NoteTabs::minimumTabSizeHint(int index) const
 {
     return tabSizeHint(index);
+}
+
+void NoteTabs::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Home)
+        setCurrentIndex(0);
+    else if (event->key() == Qt::Key_End)
+        setCurrentIndex(count() - 1);
+    else
+        QTabBar::keyPressEvent(event);
 }
 
 void NoteTabs::paintEvent(QPaintEvent *)

@@ -47,11 +47,13 @@ void StackToolbar::showState(const clsNoteProps *note)
 void StackToolbar::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    // In a narrow window they move together: none is to vanish.
+    const int pitch = qMin(Pitch, (width() - First) / static_cast<int>(buttonCount()));
+    const int side = qMin(Side, pitch);
     int left = First;
     for (size_t i = 0; i < buttonCount(); ++i) {
-        button(i).setGeometry(left, (height() - Side) / 2, Side, Side);
-        button(i).setVisible(left + Side <= width());
-        left += Pitch;
+        button(i).setGeometry(left, (height() - Side) / 2, side, Side);
+        left += pitch;
     }
     placeStatus({left, 0, qMax(0, width() - left - StatusRight), height()});
 }

@@ -13,7 +13,6 @@
 
 #include <QCloseEvent>
 #include <QMouseEvent>
-#include <QSettings>
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -29,11 +28,6 @@ constexpr int ListSide = 24;
 constexpr int Picture = 16;
 constexpr int TitleLeft = 26;
 constexpr int GripSide = 16;
-
-QString placeFile(const Program &program)
-{
-    return program.paths().DataFolder + QStringLiteral("/window.set");
-}
 
 } // namespace
 
@@ -203,27 +197,6 @@ void frmNoteStack::hideEvent(QHideEvent *event)
     QWidget::hideEvent(event);
     if (!event->spontaneous() && !m_closing && !m_program.Exiting)
         keepPlace();
-}
-
-void frmNoteStack::restorePlace()
-{
-    const QSettings settings(placeFile(m_program), QSettings::IniFormat);
-    restoreGeometry(settings.value(QStringLiteral("NoteStack/geometry")).toByteArray());
-}
-
-/// Whether the window is shown is kept with its place, so that the next start finds it as it was left.
-void frmNoteStack::keepPlace()
-{
-    QSettings settings(placeFile(m_program), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("NoteStack/geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("NoteStack/shown"), isVisible());
-    settings.sync();
-    QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
-}
-
-bool frmNoteStack::wasShown(const Program &program)
-{
-    return QSettings(placeFile(program), QSettings::IniFormat).value(QStringLiteral("NoteStack/shown")).toBool();
 }
 
 void frmNoteStack::Destroy()

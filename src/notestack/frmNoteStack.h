@@ -43,6 +43,8 @@ public:
     void lockform(int index);
     /// The window was open when the program last ended.
     static bool wasShown(const Program &program);
+    /// After the load: the order of the tabs, and the chosen one, as they were left.
+    void restoreOrder();
 
     QWidget *window() override { return this; }
     int NumOfQuillets() const override;

@@ -180,7 +180,7 @@ void frmNoteStack::openDialog(const StackNote &note, NoteCommand command)
 
 void frmNoteStack::addNew()
 {
-    modCreateNote::createNewNote(m_program, true);
+    modCreateNote::createNewNote(m_program, true, this);
 }
 
 NoteMenu *frmNoteStack::makeMenu(const QString &name, std::span<const MenuEntry> entries)
@@ -245,6 +245,8 @@ void frmNoteStack::keyPressEvent(QKeyEvent *event)
     StackNote *note = chosen();
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         menuCommanded();
+    else if (enter && note != nullptr && note->locked)
+        unlock();
     else if (enter && note != nullptr)
         beginTextEditing(*note);
     else

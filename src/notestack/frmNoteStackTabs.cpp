@@ -6,6 +6,7 @@
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/LockOverlay.h"
 #include "notes/parts/NoteTitle.h"
+#include "notes/parts/TextShortening.h"
 #include "notestack/NoteTabs.h"
 #include "notestack/StackNote.h"
 #include "notestack/StackPage.h"
@@ -14,8 +15,14 @@
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
 
+#include <QActionGroup>
 #include <QMenu>
 #include <QToolButton>
+
+namespace
+{
+constexpr int ListWidth = 320; ///< Of a title in the list of all.
+}
 
 std::optional<size_t> frmNoteStack::indexOf(qint32 tag) const
 {
@@ -144,8 +151,13 @@ void frmNoteStack::showTitle(StackNote &note)
 
 void frmNoteStack::tabChosen()
 {
+    const bool blankTitle = m_title->isBlank();
     commitEditing();
     ShowNewTitle();
+    // Events run while the box is open: the tabs have to have changed first.
+    if (blankTitle)
+        QMetaObject::invokeMethod(
+            this, [this] { noteTitles::tellBlank(m_program, this); }, Qt::QueuedConnection);
 }
 
 void frmNoteStack::ShowNewTitle()
@@ -271,8 +283,12 @@ void frmNoteStack::showTabList()
 {
     const QPointer<QMenu> menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("mnuTabList"));
+    auto *group = new QActionGroup(menu);
     for (int i = 0; i < noteCount(); ++i) {
-        QAction *action = menu->addAction(m_tabs->tabText(i));
+        const QString title = textShortening::shortened(noteTitles::title(m_notes[static_cast<size_t>(i)]->record),
+                                                        ListWidth, menu->font());
+        QAction *action = menu->addAction(QString(title).replace(u'&', QLatin1String("&&")));
+        action->setActionGroup(group);
         action->setCheckable(true);
         action->setChecked(i == m_tabs->currentIndex());
         action->setData(m_notes[static_cast<size_t>(i)]->record.Tag);

@@ -180,7 +180,7 @@ void frmMenu::perform(Command command)
 {
     switch (command) {
     case Command::New:
-        modCreateNote::createNewNote(m_program, false);
+        modCreateNote::createNewNote(m_program, false, isVisible() ? this : nullptr);
         break;
     case Command::Save:
         modForms::SaveAllWithProgress(m_program);

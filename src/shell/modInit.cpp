@@ -11,6 +11,7 @@
 #include "platform/DisplayPlatform.h"
 #include "platform/EndSignals.h"
 #include "platform/ExitRescue.h"
+#include "platform/HeldKeys.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Printing.h"
 #include "platform/SingleInstance.h"
@@ -153,6 +154,7 @@ int run(Program &program)
     const ExitRescue rescue([&program] { modForms::rescueNotes(program); });
     if (program.Exiting)
         return 0;
+    stack->restoreOrder();
     modTimers::SetAutoSave(program, true);
     showPanel(program, *splash, *panel);
     // Told to end while a box was open: an event loop that has not begun cannot be left.
@@ -255,6 +257,8 @@ int Main(int argc, char *argv[])
     QApplication app(argc, argv);
     displayPlatform::forgetPreference();
     nameApplication();
+    HeldKeys heldKeys;
+    app.installEventFilter(&heldKeys);
     MessageBoxes early;
     SingleInstance instance;
     if (!instance.acquire()) {

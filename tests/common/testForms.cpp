@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "platform/Choosers.h"
+#include "platform/HeldKeys.h"
 #include "platform/MessageBoxes.h"
 #include "common/PlainNote.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"
 
 #include <QPointer>
+
+#include <QPlainTextEdit>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +22,7 @@ private slots:
     void init();
     void closesEveryWindow();
     void boxesGoWithTheirOwners();
+    void heldKeysDoOneThing();
     void dialogsHideNotes();
 
 private:
@@ -72,6 +77,33 @@ void testForms::boxesGoWithTheirOwners()
     QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.colour(Qt::red, owner); }));
     QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.font(QFont(), owner); }));
     QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.openFile({u"title"_s, {}, {}}, owner); }));
+}
+
+void testForms::heldKeysDoOneThing()
+{
+    HeldKeys heldKeys;
+    qApp->installEventFilter(&heldKeys);
+    QWidget window;
+    QPushButton button(&window);
+    QPlainTextEdit text(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    int pressed = 0;
+    connect(&button, &QPushButton::clicked, &window, [&] {
+        ++pressed;
+        text.setFocus();
+    });
+    const auto press = [&window] { QTest::keyPress(window.windowHandle(), Qt::Key_Space); };
+    button.setFocus();
+    press();
+    QTest::keyRelease(window.windowHandle(), Qt::Key_Space);
+    for (int repeat = 0; repeat < 3; ++repeat)
+        press();
+    QVERIFY(pressed == 1 && text.toPlainText().isEmpty());
+    QTest::qWait(150); // A person presses again.
+    for (int repeat = 0; repeat < 3; ++repeat)
+        press();
+    QCOMPARE(text.toPlainText(), u"   "_s);
 }
 
 void testForms::dialogsHideNotes()

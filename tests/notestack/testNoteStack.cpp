@@ -27,6 +27,8 @@ private slots:
     void leavingCommits_data();
     void leavingCommits();
     void lockedTextIsNowhere();
+    void orderIsKept();
+    void blankTitleIsTold();
     void locks();
     void wrongPasswords_data();
     void wrongPasswords();
@@ -196,8 +198,42 @@ void testNoteStack::lockedTextIsNowhere()
     m_fixture->stack.recordChanged(tag);
     QVERIFY(m_fixture->isUnseen(secret));
     m_fixture->click("lblDisplay(1)");
+    answerDialog(u"frmEnterPwd"_s, [](QDialog &prompt) { prompt.reject(); });
+    m_fixture->test.prompts.expect(Answer::Ok);
     QTest::keyClick(&m_fixture->stack, Qt::Key_Return);
-    QVERIFY(m_fixture->isUnseen(secret));
+    QVERIFY(m_fixture->isLocked() && m_fixture->isUnseen(secret));
+}
+
+void testNoteStack::orderIsKept()
+{
+    m_fixture->addAll({u"a"_s, u"b"_s, u"c"_s});
+    m_fixture->tabs.setCurrentIndex(1);
+    m_fixture->stack.keepPlace();
+    frmNoteStack next(m_fixture->program);
+    next.Initialize();
+    next.AddANote(m_fixture->record(u"new"_s));
+    for (const qint32 tag : {3, 2, 1})
+        next.AddANote(clsNoteProps(*m_fixture->stack.recordOf(tag)));
+    next.restoreOrder();
+    const auto &tabs = *next.findChild<NoteTabs *>();
+    QStringList captions;
+    for (int i = 0; i < tabs.count(); ++i)
+        captions.append(tabs.caption(i));
+    QCOMPARE(captions, QStringList({u"a"_s, u"b"_s, u"c"_s, u"new"_s}));
+    QCOMPARE(tabs.currentIndex(), 1);
+    QCOMPARE(NoteFixture::control<QLabel>(next, "lblDisplay(3)").text(), u"new"_s);
+    QVERIFY(NoteFixture::control<QLabel>(next, "lblDisplay(1)").isVisibleTo(&next));
+}
+
+void testNoteStack::blankTitleIsTold()
+{
+    m_fixture->addAll({u"a"_s, u"b"_s});
+    m_fixture->choose("mnuTitle");
+    NoteFixture::control<QLineEdit>(m_fixture->stack, "txtTitle").setText(u"  "_s);
+    m_fixture->test.prompts.expect(Answer::Ok);
+    m_fixture->tabs.setCurrentIndex(0);
+    QTRY_VERIFY(m_fixture->test.prompts.isDone());
+    QCOMPARE(m_fixture->captions(), QStringList({u"a"_s, u"b"_s}));
 }
 
 void testNoteStack::locks()

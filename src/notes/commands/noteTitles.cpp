@@ -37,14 +37,19 @@ bool take(Program &program, clsNoteProps &note, const QString &typed, bool insis
 {
     if (typed.trimmed().isEmpty()) {
         if (insist)
-            program.prompts().tell({QCoreApplication::translate("noteTitles", "You cannot have a zero-length title."),
-                                    QCoreApplication::translate("noteTitles", "Error"), Message::Icon::Critical},
-                                   owner);
+            tellBlank(program, owner);
         return false;
     }
     note.TitleBarTitle = typed;
     note.SaveTag = 1;
     return true;
+}
+
+void tellBlank(Program &program, QWidget *owner)
+{
+    program.prompts().tell({QCoreApplication::translate("noteTitles", "You cannot have a zero-length title."),
+                            QCoreApplication::translate("noteTitles", "Error"), Message::Icon::Critical},
+                           owner);
 }
 
 bool confirmDeletion(Program &program, const clsNoteProps &note, QWidget *owner)

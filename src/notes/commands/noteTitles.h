@@ -24,6 +24,8 @@ inline constexpr int PromptReserve = 30;
 /// Takes what was typed. False for a text of blanks: the title stays, and where `insist` is true a box says why; the
 /// note may be gone when this returns.
 bool take(Program &program, clsNoteProps &note, const QString &typed, bool insist, QWidget *owner);
+/// Says that a title cannot be empty.
+void tellBlank(Program &program, QWidget *owner);
 /// Asks whether the note is to be deleted.
 bool confirmDeletion(Program &program, const clsNoteProps &note, QWidget *owner);
 

@@ -175,7 +175,7 @@ void NoteTitle::endEditing()
 
 void NoteTitle::commitQuietly()
 {
-    if (m_editing && m_editor->text().trimmed().isEmpty())
+    if (isBlank())
         giveUp();
     endEditing();
 }
