@@ -45,7 +45,7 @@ frmAlarmSettings::frmAlarmSettings(Program &program, QWidget *owner)
       m_on(new CheckRow(QStringLiteral("Alarm"), tr("&Alarm enabled"), this)), m_frame(new QFrame(this)),
       m_date(new DatePicker(m_frame)), m_time(new TimePicker(m_frame)),
       m_flash(new CheckRow(QStringLiteral("Flash"), tr("&Flashing window"), m_frame)),
-      m_soundOn(new CheckRow(QStringLiteral("SoundFile"), tr("&Play sound (*.wav):"), m_frame)),
+      m_soundOn(new CheckRow(QStringLiteral("SoundFile"), tr("Play &sound (*.wav):"), m_frame)),
       m_soundFile(new QPushButton(m_frame))
 {
     setObjectName(formName());

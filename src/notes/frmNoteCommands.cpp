@@ -122,6 +122,10 @@ void frmNote::keyPressEvent(QKeyEvent *event)
     const int key = event->key();
     if (key == Qt::Key_F2)
         SetFocusToTitleBar();
+    else if (key == Qt::Key_F1)
+        run(Help);
+    else if (key == Qt::Key_F6)
+        modForms::activateNext(m_program, *this);
     else if (key == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         menuCommanded();
     else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_locked)

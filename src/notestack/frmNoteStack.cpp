@@ -10,6 +10,7 @@
 #include "platform/WindowStacking.h"
 #include "shell/common/Program.h"
 #include "shell/common/modForms.h"
+#include "shell/common/modHelp.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -116,7 +117,9 @@ void frmNoteStack::makeShortcuts()
     add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), [step] { step(-1); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [step] { step(1); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [step] { step(-1); });
+    add(QKeySequence(Qt::Key_F1), [this] { modHelp::ShowHelp(m_program); });
     add(QKeySequence(Qt::Key_F2), [this] { editTitle(); });
+    add(QKeySequence(Qt::Key_F6), [this] { modForms::activateNext(m_program, *this); });
 }
 
 /// The controls are laid out in pixels; what is left to scale is the size that the window first has.

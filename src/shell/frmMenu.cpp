@@ -18,6 +18,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QShortcut>
 
 namespace
 {
@@ -67,6 +68,7 @@ frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toStrin
     makeRows();
     makeGrip();
     makeTray();
+    makeShortcuts();
 }
 
 frmMenu::~frmMenu()
@@ -81,6 +83,7 @@ void frmMenu::makeLogo()
     m_logo->setAccessibleName(tr("About Quillets"));
     m_logo->setPixmap(m_program.pictures().programIcon().pixmap(QSize(LogoSide, LogoSide), devicePixelRatioF()));
     m_logo->setAlignment(Qt::AlignCenter);
+    m_logo->setFocusPolicy(Qt::TabFocus);
     m_logo->installEventFilter(this);
     m_name = new QLabel(QStringLiteral("Quillets"), this);
     m_name->setObjectName(QStringLiteral("lblName"));
@@ -106,6 +109,15 @@ void frmMenu::makeRows()
         connect(row, &PanelRow::commanded, this, [this, command] { run(command); });
         m_rows[i] = row;
     }
+}
+
+void frmMenu::makeShortcuts()
+{
+    setTabOrder(m_rows.back(), m_logo);
+    m_rows.front()->setFocus();
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { run(Command::Help); });
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this,
+            [this] { modForms::activateNext(m_program, *this); });
 }
 
 void frmMenu::makeGrip()
@@ -315,8 +327,20 @@ void frmMenu::showTip()
     m_tray->setTip(count == 1 ? tr("Quillets\n1 note") : tr("Quillets\n%1 notes").arg(count));
 }
 
+bool frmMenu::logoKeyPressed(const QKeyEvent &event)
+{
+    const bool isPress = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+    if (isPress)
+        run(Command::About);
+    return isPress;
+}
+
 bool frmMenu::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_logo && event->type() == QEvent::KeyPress)
+        return logoKeyPressed(*static_cast<QKeyEvent *>(event));
+    if (watched == m_logo && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
+        m_logo->setFrameShape(event->type() == QEvent::FocusIn ? QFrame::StyledPanel : QFrame::NoFrame);
     const auto *mouse = dynamic_cast<QMouseEvent *>(event);
     if (mouse == nullptr)
         return false;

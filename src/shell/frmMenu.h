@@ -57,6 +57,8 @@ private:
     void makeLogo();
     void makeTray();
     void makeGrip();
+    void makeShortcuts();
+    bool logoKeyPressed(const QKeyEvent &event);
     void layOutLogo(int width);
     void run(Command command);
     void runFromTray(Command command);

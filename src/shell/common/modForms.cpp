@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/common/modForms.h"
 
+#include "platform/WindowStacking.h"
 #include "shell/common/Program.h"
 #include "shell/common/modTimers.h"
 
@@ -100,6 +101,21 @@ bool IsDialogShowing(const Program &program)
     return std::any_of(all.begin(), all.end(), [](Form *form) {
         return !isOwnKind(*form) && form->window() != nullptr && form->window()->isVisible();
     });
+}
+
+void activateNext(Program &program, Form &from)
+{
+    constexpr std::array Kinds{formNames::Note, formNames::NoteStack, formNames::Menu};
+    auto all = program.forms.loaded();
+    const auto at = std::find(all.begin(), all.end(), &from);
+    if (at == all.end())
+        return;
+    std::rotate(all.begin(), at + 1, all.end());
+    const auto next = std::find_if(all.begin(), all.end(), [&](Form *form) {
+        return std::find(Kinds.begin(), Kinds.end(), form->formName()) != Kinds.end() && form->window()->isVisible();
+    });
+    if (next != all.end())
+        windowStacking::SetForegroundWindow(*(*next)->window());
 }
 
 void CloseAllWindows(Program &program)

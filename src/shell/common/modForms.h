@@ -30,6 +30,9 @@ void UnhookWindow(Form &form);
 void ShowNoteWindows(Program &program);
 /// True while a window is shown that is none of the program's own five kinds.
 bool IsDialogShowing(const Program &program);
+/// From a note, the NoteStack or the main panel to the next of these windows that is shown: desktops list no notes in
+/// their window switcher.
+void activateNext(Program &program, Form &from);
 /// Writes what is not on the disk without the help of any window, and tells nobody.
 void rescueNotes(Program &program);
 /// Hides, destroys and unloads every window but the main panel, which is hidden. Saves nothing.
