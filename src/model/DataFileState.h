@@ -20,12 +20,12 @@ struct DataFileState
     QString readOnlyReason; ///< Not empty: the data file could not be read, so it is never written.
     /// The load of that moment could not keep its damaged data file aside; nothing is written before that is done.
     std::optional<QDateTime> asideOwedSince;
-    /// Size and time of the data file as it was last read or written; a difference is somebody else's doing.
+    /// The data file as it was last read or written. Times alone prove nothing: some file systems round them later.
     struct Stamp
     {
         qint64 size = 0;
         QDateTime modified;
-        bool operator==(const Stamp &) const = default;
+        QByteArray digest; ///< Of the contents.
     };
     std::optional<Stamp> stamp;
     /// Copies of data files that others had written, of which the user was not told yet.

@@ -5,6 +5,7 @@
 #include "model/fileReplace.h"
 #include "model/modStreams.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QScopedValueRollback>
@@ -32,11 +33,20 @@ Outcome<Done, QString> settleAside(DataFileState &state)
     return Done{};
 }
 
+QByteArray digestOf(QByteArrayView bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Md5);
+}
+
 /// What another program has written meanwhile, a restored backup or a synchronised file, is not lost.
 Outcome<Done, QString> keepForeignFile(DataFileState &state)
 {
-    const auto now = modFileIO::stampOf(state.paths.DataFile);
-    if (!now || !state.stamp || *now == *state.stamp)
+    const QFileInfo file(state.paths.DataFile);
+    if (!state.stamp || !file.isFile() ||
+        (file.size() == state.stamp->size && file.lastModified() == state.stamp->modified))
+        return Done{};
+    const auto bytes = readWholeFile(state.paths.DataFile, DataImage::MaximumLength);
+    if (bytes && digestOf(bytes.value()) == state.stamp->digest)
         return Done{};
     const auto kept = keepAside(state.paths.DataFile, u"changed"_s, QDateTime::currentDateTime());
     if (!kept)
@@ -58,10 +68,11 @@ Outcome<Done, QString> replaceDataFile(DataFileState &state)
     const QScopedValueRollback saving(state.SavingData, true);
     ensureFolder(state.paths.DataFolder);
     auto written = keepForeignFile(state);
+    const QByteArray bytes = state.image.bytes();
     if (written)
-        written = replaceFile(state.paths.DataFile, state.image.bytes());
+        written = replaceFile(state.paths.DataFile, bytes);
     if (written) {
-        state.stamp = modFileIO::stampOf(state.paths.DataFile);
+        state.stamp = modFileIO::stampOf(state.paths.DataFile, bytes);
         state.unsaved = false;
         ++state.replacements;
     }
@@ -70,10 +81,9 @@ Outcome<Done, QString> replaceDataFile(DataFileState &state)
 
 } // namespace
 
-std::optional<DataFileState::Stamp> modFileIO::stampOf(const QString &path)
+DataFileState::Stamp modFileIO::stampOf(const QString &path, QByteArrayView bytes)
 {
-    const QFileInfo file(path);
-    return file.isFile() ? std::optional(DataFileState::Stamp{file.size(), file.lastModified()}) : std::nullopt;
+    return {bytes.size(), QFileInfo(path).lastModified(), digestOf(bytes)};
 }
 
 WriteResult modFileIO::WriteNoteRecord(DataFileState &state, const clsNoteProps &note, bool keep)

@@ -53,8 +53,8 @@ LoadReport LoadDataFile(DataFileState &state, const clsNoteProps &noteTemplate, 
 /// Puts the note's record into the file, or with `keep` false takes it out.
 WriteResult WriteNoteRecord(DataFileState &state, const clsNoteProps &note, bool keep);
 
-/// Nothing for a file that is not there.
-std::optional<DataFileState::Stamp> stampOf(const QString &path);
+/// Of a data file that was just read or written with these bytes.
+DataFileState::Stamp stampOf(const QString &path, QByteArrayView bytes);
 
 /// Writes the image if the disk is behind it. During a load and inside a batch nothing happens.
 Outcome<Done, QString> flush(DataFileState &state);

@@ -106,7 +106,7 @@ LoadReport modFileIO::LoadDataFile(DataFileState &state, const clsNoteProps &not
     const std::optional<QByteArray> file = readDataFile(state, report);
     if (!file)
         return report;
-    state.stamp = modFileIO::stampOf(state.paths.DataFile);
+    state.stamp = modFileIO::stampOf(state.paths.DataFile, *file);
     DataSurvey survey = surveyDataFile(*file, noteTemplate, room);
     report.overLimit = static_cast<int>(survey.beyondRoom.size());
     report.undecodable = survey.undecodable;

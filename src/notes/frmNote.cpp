@@ -29,15 +29,16 @@ constexpr auto PlaceSettles = 300ms;
 frmNote::frmNote(Program &program)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), Form(program.forms, formNames::Note.toString()),
       m_program(program), m_alarm(program, [this] { return isUnloaded() ? nullptr : &m_record; }), m_drag(*this),
-      m_toolbar(new NoteToolbar(program.pictures(), this)), m_body(new NoteBody(this)),
-      m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_drag))
+      m_body(new NoteBody(this)), m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_drag))
 {
     setObjectName(formName());
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
+    // In this order the Tab key goes through them.
     makeTitleBar();
+    m_toolbar = new NoteToolbar(program.pictures(), this);
     m_placeTimer.setSingleShot(true);
     m_placeTimer.setInterval(PlaceSettles);
     m_drag.setLimits(NoteLayout::smallestSize(), false);
