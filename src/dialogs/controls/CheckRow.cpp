@@ -29,8 +29,11 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(colours::distinct(palette().color(QPalette::Highlight), palette().color(QPalette::Window),
-                                         palette().color(QPalette::WindowText)));
+        // Pages of tabs are painted in the colour of buttons.
+        const QPalette &is = palette();
+        const QColor ink = is.color(QPalette::WindowText);
+        const QColor mark = colours::distinct(is.color(QPalette::Highlight), is.color(QPalette::Window), ink);
+        painter.setPen(colours::distinct(mark, is.color(QPalette::Button), ink));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), MarkRadius, MarkRadius);
     }
 };
