@@ -179,12 +179,15 @@ void frmMenu::run(Command command)
 }
 
 /// The icon can be used while a command of the panel has a dialog open; what opens one itself then waits its turn.
+/// While all notes are saved or moved nothing else is done.
 void frmMenu::runFromTray(Command command)
 {
     constexpr std::array Independent{Command::New, Command::Show, Command::Save, Command::Help, Command::Exit};
+    const bool isBusy = m_program.file.batchDepth > 0;
     if (!m_pressGuard)
         run(command);
-    else if (!m_program.Exiting && std::find(Independent.begin(), Independent.end(), command) != Independent.end())
+    else if (!isBusy && !m_program.Exiting &&
+             std::find(Independent.begin(), Independent.end(), command) != Independent.end())
         perform(command);
 }
 
