@@ -64,7 +64,10 @@ protected:
     }
     void mouseReleaseEvent(QMouseEvent *event) override
     {
-        if (event->button() == Qt::LeftButton && m_drag.release())
+        if (event->button() != Qt::LeftButton)
+            return;
+        m_drag.move(event->globalPosition().toPoint());
+        if (m_drag.release())
             emit m_owner.sized();
     }
 

@@ -60,8 +60,11 @@ void TitleLabel::mouseMoveEvent(QMouseEvent *event)
 
 void TitleLabel::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
-        emit released();
+    if (event->button() != Qt::LeftButton)
+        return;
+    // Moves are compressed: the last one may be told by the release alone.
+    emit dragged(event->globalPosition().toPoint());
+    emit released();
 }
 
 void TitleLabel::mouseDoubleClickEvent(QMouseEvent *event)
