@@ -157,6 +157,8 @@ bool WindowDrag::move(QPoint globalPosition)
         m_window->move(target.topLeft());
     else
         m_window->setGeometry(target);
+    // Behind the last move of a drag there may be no event that would send it.
+    windowStacking::sendNow();
     return true;
 }
 

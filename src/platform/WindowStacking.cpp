@@ -27,13 +27,6 @@ xcb_connection_t *connection()
     return x11 != nullptr ? x11->connection() : nullptr;
 }
 
-/// Requests made outside the window system's own events stay unsent while another program has the focus.
-void sendNow()
-{
-    if (auto *display = connection())
-        xcb_flush(display);
-}
-
 xcb_atom_t atom(xcb_connection_t *display, const char *name)
 {
     const auto cookie = xcb_intern_atom(display, 0, static_cast<uint16_t>(std::strlen(name)), name);
@@ -54,13 +47,17 @@ struct Atoms
     xcb_atom_t skipPager;
 };
 
-#else
-
-void sendNow() {}
-
 #endif
 
 } // namespace
+
+void sendNow()
+{
+#ifdef QUILLETS_HAS_XCB
+    if (auto *display = connection())
+        xcb_flush(display);
+#endif
+}
 
 void SetWindowOnTop(QWidget &window, bool onTop)
 {

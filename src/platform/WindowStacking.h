@@ -12,6 +12,8 @@ class QWidget;
 namespace windowStacking
 {
 
+/// Requests wait for the next event of the window system, which may be long in coming; this sends them.
+void sendNow();
 /// In or out of the band of windows above all others; neither hides the window nor moves the focus.
 void SetWindowOnTop(QWidget &window, bool onTop);
 /// A dialog must not open beneath notes that stay on top: it stays there too while there are such. To be said before
