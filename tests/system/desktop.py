@@ -148,4 +148,5 @@ class Window:
         self._display.do("mousedown", 1)
         for step in (0.3, 0.7, 1):
             self._display.do("mousemove", left + x + round(by_x * step), top + y + round(by_y * step))
+            time.sleep(0.15)  # A hand is not faster; the window manager answers meanwhile.
         self._display.do("mouseup", 1)
