@@ -3,7 +3,7 @@
 #include "model/modFileIO.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/parts/NoteText.h"
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 
 #include <QApplication>
 #include <QBuffer>

@@ -3,8 +3,8 @@
 #include "alarms/NoteAlarm.h"
 
 #include "alarms/modAlarm.h"
-#include "platform/Clock.h"
-#include "shell/common/Program.h"
+#include "platform/SystemClock.h"
+#include "forms/Program.h"
 
 NoteAlarm::NoteAlarm(Program &program, Record record, QObject *parent)
     : QObject(parent), m_program(program), m_record(std::move(record))

@@ -3,16 +3,16 @@
 #include "alarms/frmAlarmSettings.h"
 
 #include "alarms/modAlarm.h"
-#include "dialogs/controls/CheckRow.h"
-#include "dialogs/controls/Pickers.h"
+#include "controls/CheckRow.h"
+#include "controls/Pickers.h"
 #include "model/modCopyObject.h"
-#include "notes/parts/TextShortening.h"
-#include "platform/Choosers.h"
-#include "platform/Clock.h"
+#include "drawing/textShortening.h"
+#include "platform/SystemChoosers.h"
+#include "platform/SystemClock.h"
 #include "platform/Prompts.h"
-#include "platform/toolTips.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "drawing/toolTips.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/clsAlarmProps.h"
-#include "shell/common/Form.h"
+#include "forms/Form.h"
 
 #include <QDialog>
 

@@ -3,11 +3,11 @@
 #include "dialogs/AlarmPage.h"
 
 #include "alarms/modAlarm.h"
-#include "dialogs/controls/CheckRow.h"
-#include "dialogs/controls/Pickers.h"
-#include "platform/Clock.h"
+#include "controls/CheckRow.h"
+#include "controls/Pickers.h"
+#include "platform/SystemClock.h"
 #include "platform/Prompts.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

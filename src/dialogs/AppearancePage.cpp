@@ -3,16 +3,16 @@
 #include "dialogs/AppearancePage.h"
 
 #include "dialogs/FontPreview.h"
-#include "dialogs/PictureThumbnail.h"
-#include "dialogs/controls/CheckRow.h"
-#include "dialogs/controls/ColourButton.h"
-#include "dialogs/controls/FileButton.h"
-#include "dialogs/controls/fileChoosing.h"
-#include "notes/parts/NoteInk.h"
-#include "platform/Choosers.h"
-#include "platform/Colours.h"
+#include "controls/PictureThumbnail.h"
+#include "controls/CheckRow.h"
+#include "controls/ColourButton.h"
+#include "controls/FileButton.h"
+#include "controls/fileChoosing.h"
+#include "drawing/NoteInk.h"
+#include "platform/SystemChoosers.h"
+#include "drawing/colours.h"
 #include "platform/Prompts.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCheckBox>
 #include <QFontInfo>

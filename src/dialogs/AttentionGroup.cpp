@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/AttentionGroup.h"
 
-#include "dialogs/controls/CheckRow.h"
-#include "dialogs/controls/FileButton.h"
-#include "dialogs/controls/fileChoosing.h"
+#include "controls/CheckRow.h"
+#include "controls/FileButton.h"
+#include "controls/fileChoosing.h"
 #include "platform/Prompts.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -3,9 +3,9 @@
 #include "dialogs/FontPreview.h"
 
 #include "model/textValues.h"
-#include "notes/parts/NoteInk.h"
-#include "notes/parts/TextShortening.h"
-#include "platform/toolTips.h"
+#include "drawing/NoteInk.h"
+#include "drawing/textShortening.h"
+#include "drawing/toolTips.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "dialogs/settingsFields.h"
+#include "dialogs/AppearanceFields.h"
 
 #include <QFrame>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/TabbedDialog.h"
 
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QDialogButtonBox>
 #include <QFrame>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/common/Form.h"
+#include "forms/Form.h"
 
 #include <QDialog>
 

@@ -5,9 +5,9 @@
 #include "dialogs/AppearancePage.h"
 #include "dialogs/AttentionGroup.h"
 #include "model/modCopyObject.h"
-#include "model/optionsFile.h"
+#include "model/modFileIOOptions.h"
 #include "platform/Prompts.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>

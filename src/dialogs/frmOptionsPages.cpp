@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "dialogs/AttentionGroup.h"
-#include "dialogs/controls/CheckRow.h"
-#include "dialogs/controls/FileButton.h"
-#include "dialogs/controls/NumberBox.h"
-#include "dialogs/controls/fileChoosing.h"
+#include "controls/CheckRow.h"
+#include "controls/FileButton.h"
+#include "controls/NumberBox.h"
+#include "controls/fileChoosing.h"
 #include "dialogs/frmOptions.h"
 #include "model/textFile.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

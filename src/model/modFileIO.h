@@ -3,6 +3,6 @@
 #pragma once
 
 // The program's own files: notes, options and recent lists. Each has a header of its own for who needs no more.
-#include "model/dataFile.h"
-#include "model/optionsFile.h"
-#include "model/recentLists.h"
+#include "model/modFileIOData.h"
+#include "model/modFileIOOptions.h"
+#include "model/modFileIORecent.h"

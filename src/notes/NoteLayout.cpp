@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/NoteLayout.h"
 
-#include "platform/Twips.h"
+#include "drawing/Twips.h"
 
 namespace
 {

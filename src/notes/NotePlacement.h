@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/clsNoteProps.h"
-#include "platform/Twips.h"
+#include "drawing/Twips.h"
 
 #include <QRect>
 

@@ -8,13 +8,13 @@
 #include "notes/parts/LockOverlay.h"
 #include "notes/parts/NoteBody.h"
 #include "notes/parts/NoteTitle.h"
-#include "notes/parts/TextShortening.h"
-#include "platform/Colours.h"
-#include "platform/SoundPlayer.h"
-#include "platform/WindowStacking.h"
+#include "drawing/textShortening.h"
+#include "drawing/colours.h"
+#include "platform/SystemSound.h"
+#include "platform/windowStacking.h"
 #include "security/noteLocks.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -8,9 +8,9 @@
 #include "notes/NoteLayout.h"
 #include "notes/NoteToolbar.h"
 #include "notes/commands/NoteMenu.h"
-#include "notes/parts/NoteInk.h"
+#include "drawing/NoteInk.h"
 #include "platform/WindowDrag.h"
-#include "shell/common/Form.h"
+#include "forms/Form.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -11,13 +11,13 @@
 #include "notes/frmNote.h"
 #include "notes/modCreateNote.h"
 #include "notes/parts/NoteTitle.h"
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 #include "platform/Prompts.h"
-#include "platform/WindowStacking.h"
+#include "platform/windowStacking.h"
 #include "security/noteLocks.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
-#include "shell/common/modHelp.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
+#include "forms/modHelp.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -7,10 +7,10 @@
 #include "notes/commands/noteTitles.h"
 #include "notes/frmNote.h"
 #include "notes/parts/NoteTitle.h"
-#include "platform/WindowStacking.h"
+#include "platform/windowStacking.h"
 #include "security/noteLocks.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 void frmNote::ApplyNoteAppearance()
 {

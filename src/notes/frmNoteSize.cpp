@@ -5,9 +5,9 @@
 #include "notes/ResizeHandles.h"
 #include "notes/frmNote.h"
 #include "notes/parts/NoteTitle.h"
-#include "platform/DisplayPlatform.h"
-#include "platform/WindowStacking.h"
-#include "shell/common/Program.h"
+#include "platform/displayPlatform.h"
+#include "platform/windowStacking.h"
+#include "forms/Program.h"
 
 #include <QMoveEvent>
 

@@ -3,11 +3,11 @@
 #include "notes/modCreateNote.h"
 
 #include "notes/NotePlacement.h"
-#include "platform/Clock.h"
+#include "platform/SystemClock.h"
 #include "platform/Prompts.h"
-#include "platform/WindowStacking.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "platform/windowStacking.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QGuiApplication>
 #include <QLocale>

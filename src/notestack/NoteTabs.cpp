@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "notestack/NoteTabs.h"
 
-#include "notes/parts/TextShortening.h"
-#include "platform/toolTips.h"
+#include "drawing/textShortening.h"
+#include "drawing/toolTips.h"
 
 #include <QKeyEvent>
 #include <QPainter>

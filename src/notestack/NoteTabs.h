@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "notes/parts/NoteInk.h"
+#include "drawing/NoteInk.h"
 
 #include <QTabBar>
 

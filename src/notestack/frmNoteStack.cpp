@@ -7,10 +7,10 @@
 #include "notestack/NoteTabs.h"
 #include "notestack/StackNote.h"
 #include "notestack/StackPage.h"
-#include "platform/WindowStacking.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
-#include "shell/common/modHelp.h"
+#include "platform/windowStacking.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
+#include "forms/modHelp.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>

@@ -5,7 +5,7 @@
 #include "notes/commands/NoteMenu.h"
 #include "notestack/StackToolbar.h"
 #include "platform/WindowDrag.h"
-#include "shell/common/Form.h"
+#include "forms/Form.h"
 
 #include <QWidget>
 

@@ -14,10 +14,10 @@
 #include "notestack/StackNote.h"
 #include "platform/Prompts.h"
 #include "security/noteLocks.h"
-#include "shell/common/Program.h"
-#include "shell/common/frmStatus.h"
-#include "shell/common/modForms.h"
-#include "shell/common/modHelp.h"
+#include "forms/Program.h"
+#include "forms/frmStatus.h"
+#include "forms/modForms.h"
+#include "forms/modHelp.h"
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 #include "notestack/NoteTabs.h"
 #include "notestack/StackNote.h"
 #include "notestack/frmNoteStack.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -6,14 +6,14 @@
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/LockOverlay.h"
 #include "notes/parts/NoteTitle.h"
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 #include "notestack/NoteTabs.h"
 #include "notestack/StackNote.h"
 #include "notestack/StackPage.h"
-#include "platform/Colours.h"
+#include "drawing/colours.h"
 #include "security/noteLocks.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QActionGroup>
 #include <QMenu>

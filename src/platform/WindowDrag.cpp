@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/WindowDrag.h"
 
-#include "platform/DisplayPlatform.h"
-#include "platform/WindowStacking.h"
+#include "platform/displayPlatform.h"
+#include "platform/windowStacking.h"
 
 #include <QWindow>
 

@@ -4,8 +4,8 @@
 
 #include "platform/Prompts.h"
 #include "security/secrets.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "security/PasswordProtection.h"
 
-#include "dialogs/controls/CheckRow.h"
-#include "dialogs/controls/showModally.h"
+#include "controls/CheckRow.h"
+#include "forms/showModally.h"
 #include "platform/Prompts.h"
 #include "security/frmChangePwd.h"
 #include "security/frmNewPwd.h"
 #include "security/noteLocks.h"
 #include "security/secrets.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -5,8 +5,8 @@
 #include "model/modCopyObject.h"
 #include "security/PasswordProtection.h"
 #include "security/secrets.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "security/noteLocks.h"
 
-#include "dialogs/controls/showModally.h"
+#include "forms/showModally.h"
 #include "platform/Prompts.h"
 #include "security/frmEnterPwd.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/PanelRow.h"
 
-#include "platform/Colours.h"
+#include "drawing/colours.h"
 
 #include <QLabel>
 #include <QMouseEvent>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Pictures.h"
+#include "drawing/Pictures.h"
 
 #include <QAbstractButton>
 

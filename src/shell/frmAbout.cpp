@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/frmAbout.h"
 
-#include "dialogs/controls/showModally.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
+#include "forms/showModally.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
 #include "shell/frmCredits.h"
 
 #include <QDialogButtonBox>

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "shell/frmMenu.h"
 
-#include "dialogs/controls/showModally.h"
+#include "forms/showModally.h"
 #include "dialogs/frmOptions.h"
 #include "notes/modCreateNote.h"
 #include "platform/TrayIcon.h"
-#include "platform/WindowStacking.h"
+#include "platform/windowStacking.h"
 #include "shell/PanelRow.h"
-#include "shell/common/Program.h"
-#include "shell/common/modForms.h"
-#include "shell/common/modHelp.h"
+#include "forms/Program.h"
+#include "forms/modForms.h"
+#include "forms/modHelp.h"
 #include "shell/frmAbout.h"
 #include "shell/modInit.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/WindowDrag.h"
-#include "shell/common/Form.h"
+#include "forms/Form.h"
 
 #include <QWidget>
 

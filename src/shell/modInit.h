@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 class frmSplash;
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "platform/SoundPlayer.h"
-#include "platform/WaveFile.h"
+#include "platform/SystemSound.h"
+#include "platform/waveFile.h"
 
 #include <QElapsedTimer>
 #include <QFile>

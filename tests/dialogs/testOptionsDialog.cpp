@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogChecks.h"
 #include "dialogs/frmOptions.h"
-#include "model/optionsFile.h"
+#include "model/modFileIOOptions.h"
 #include "support/TestProgram.h"
 #include "support/answerDialog.h"
 #include "support/failOnWarnings.h"

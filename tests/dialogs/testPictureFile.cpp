@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "dialogs/PictureThumbnail.h"
-#include "notes/parts/PictureFile.h"
+#include "controls/PictureThumbnail.h"
+#include "drawing/pictureFile.h"
 
 #include <QDir>
 #include <QFile>

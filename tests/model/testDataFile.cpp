@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "model/fileReplace.h"
+#include "model/wholeFile.h"
 #include "model/modFileIO.h"
 #include "model/modStreams.h"
 #include "samples.h"

@@ -4,7 +4,7 @@
 
 #include "notes/frmNote.h"
 #include "notes/modCreateNote.h"
-#include "shell/common/modForms.h"
+#include "forms/modForms.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 
 #include <QFontMetricsF>
 #include <QTest>

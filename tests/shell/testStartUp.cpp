@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/modStreams.h"
 #include "shell/modInit.h"
-#include "shell/common/modForms.h"
+#include "forms/modForms.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"

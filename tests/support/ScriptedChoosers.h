@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Choosers.h"
+#include "platform/SystemChoosers.h"
 
 #include <QTest>
 

@@ -3,13 +3,13 @@
 #include "notes/commands/noteDialogs.h"
 
 #include "alarms/frmAlarmSettings.h"
-#include "dialogs/controls/showModally.h"
+#include "forms/showModally.h"
 #include "dialogs/frmSettings.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/NoteTitle.h"
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 #include "security/frmPwdSettings.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QWidget>

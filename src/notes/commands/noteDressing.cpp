@@ -4,7 +4,7 @@
 
 #include "notes/parts/NoteBody.h"
 #include "platform/Prompts.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

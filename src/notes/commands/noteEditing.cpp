@@ -6,7 +6,7 @@
 #include "notes/parts/NoteBody.h"
 #include "platform/Prompts.h"
 #include "security/noteLocks.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCoreApplication>
 

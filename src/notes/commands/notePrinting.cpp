@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "notes/commands/notePrinting.h"
 
-#include "platform/Printing.h"
+#include "platform/SystemPrinting.h"
 #include "platform/Prompts.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>

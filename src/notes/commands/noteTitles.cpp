@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "notes/commands/noteTitles.h"
 
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 #include "platform/Prompts.h"
 #include "security/frmEnterPwd.h"
-#include "shell/common/Program.h"
+#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QWidget>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/BackgroundPicture.h"
 
-#include "notes/parts/PictureFile.h"
+#include "drawing/pictureFile.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/ButtonStrip.h"
 
-#include "platform/toolTips.h"
+#include "drawing/toolTips.h"
 
 #include <QMouseEvent>
 

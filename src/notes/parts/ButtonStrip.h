@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/clsNoteProps.h"
-#include "platform/PictureButton.h"
+#include "drawing/PictureButton.h"
 
 #include <QLabel>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteBody.h"
 
-#include "shell/common/modForms.h"
+#include "forms/modForms.h"
 
 NoteBody::NoteBody(QWidget *note)
     : QObject(note), m_note(note), m_display(new QWidget(note)), m_text(new NoteText(m_display))

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "notes/parts/BackgroundPicture.h"
-#include "notes/parts/NoteInk.h"
+#include "drawing/NoteInk.h"
 #include "notes/parts/NoteText.h"
 #include "notes/parts/NoteTextBox.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteText.h"
 
-#include "shell/common/modForms.h"
+#include "forms/modForms.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteTitle.h"
 
-#include "notes/parts/TextShortening.h"
+#include "drawing/textShortening.h"
 #include "notes/parts/focusLoss.h"
 
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "platform/WaveFile.h"
+#include "platform/waveFile.h"
 
 #include <QAudioDevice>
 #include <QAudioSink>

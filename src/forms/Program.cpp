@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "forms/Program.h"
+
+#include "model/modCopyObject.h"
+#include "platform/Browser.h"
+#include "platform/SystemChoosers.h"
+#include "platform/SystemClock.h"
+#include "platform/SystemPrinting.h"
+#include "platform/Prompts.h"
+#include "platform/SystemSound.h"
+
+#include <QLocale>
+
+namespace
+{
+constexpr float DialogOffsetDesign = 250.0F;
+}
+
+Program::Program(Services services, const ProgramPaths &paths, double logicalDpi)
+    : twips(logicalDpi), ScaleFactor(twips.scaleFactor()), DialogOffset(DialogOffsetDesign * ScaleFactor),
+      m_services(std::move(services))
+{
+    file.paths = paths;
+}
+
+Program::~Program() = default;
+
+void Program::BuildNoteDefaults()
+{
+    const QString today = QLocale().toString(clock().now().date(), QLocale::ShortFormat);
+    NewNoteDefaults = modFileIO::BuildNoteDefaults(ProgramOptions, today);
+    NoteTemplate = clsNoteProps();
+    modCopyObject::CopyNote(NewNoteDefaults, NoteTemplate);
+}

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/clsNoteProps.h"
+#include "model/clsprogramoptions.h"
+#include "model/modFileIO.h"
+#include "drawing/Pictures.h"
+#include "drawing/Twips.h"
+#include "forms/Forms.h"
+
+#include <QTimer>
+
+#include <memory>
+
+class Browser;
+class Choosers;
+class Clock;
+class Printing;
+class Prompts;
+class SoundPlayer;
+
+/// What the parts of the program are handed to reach the world outside; a test hands in its own.
+struct Services
+{
+    std::unique_ptr<Clock> clock;
+    std::unique_ptr<Prompts> prompts;
+    std::unique_ptr<Choosers> choosers;
+    std::unique_ptr<Printing> printing;
+    std::unique_ptr<Browser> browser;
+    std::unique_ptr<SoundPlayer> sound;
+    Pictures pictures;
+};
+
+/// The state that the whole program shares, and its services. Start-up makes one and hands it on by reference; it
+/// outlives every window. It decides nothing by itself.
+class Program
+{
+public:
+    Program(Services services, const ProgramPaths &paths, double logicalDpi);
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+    ~Program();
+
+    Clock &clock() { return *m_services.clock; }
+    Prompts &prompts() { return *m_services.prompts; }
+    Choosers &choosers() { return *m_services.choosers; }
+    Printing &printing() { return *m_services.printing; }
+    Browser &browser() { return *m_services.browser; }
+    SoundPlayer &sound() { return *m_services.sound; }
+    const Pictures &pictures() const { return m_services.pictures; }
+    const ProgramPaths &paths() const { return file.paths; }
+
+    /// Rebuilds what new notes start from; to be said whenever the options change.
+    void BuildNoteDefaults();
+
+    // Display lengths, fixed at start-up.
+    const Twips twips;
+    const float ScaleFactor;  ///< Twips per design twip.
+    const float DialogOffset; ///< Twips.
+    const QString VersionText = QStringLiteral("v.1.0.0");
+
+    qint32 NoteCounter = 0; ///< Notes created or restored in this run; only grows.
+    int SaveProgress = 0;   ///< Notes saved in the save-all that is running.
+    bool Exiting = false;
+
+    clsprogramoptions DefaultOptions;
+    clsprogramoptions ProgramOptions;
+    clsNoteProps NewNoteDefaults;
+    clsNoteProps NoteTemplate;
+
+    DataFileState file;
+    Forms forms;
+    QTimer autoSave;
+    /// A write failed and the user has been told; told again only after one has succeeded.
+    bool saveFailureTold = false;
+
+private:
+    Services m_services;
+};

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "forms/modForms.h"
+
+#include "platform/windowStacking.h"
+#include "forms/Program.h"
+#include "forms/modTimers.h"
+
+#include <QGuiApplication>
+#include <QPointer>
+#include <QWidget>
+
+#include <array>
+
+namespace modForms
+{
+namespace
+{
+
+/// Name of the object through which a window is watched; it goes with the window.
+constexpr auto WatcherName = "NoteWindowProc";
+
+/// What a watched window is told when another program becomes active.
+void NoteWindowProc(Form &form, Qt::ApplicationState state)
+{
+    if (state != Qt::ApplicationInactive)
+        return;
+    if (form.formName() == formNames::Note)
+        form.ThisFormLostFocus();
+    else
+        form.TextLostFocus();
+}
+
+bool isOwnKind(const Form &form)
+{
+    constexpr std::array Own{formNames::Note, formNames::NoteStack, formNames::Menu, formNames::Splash,
+                             formNames::Status};
+    return std::find(Own.begin(), Own.end(), form.formName()) != Own.end();
+}
+
+bool endsInOneOf(QStringView path, std::initializer_list<QStringView> endings)
+{
+    QStringView trimmed = path;
+    while (trimmed.startsWith(u' '))
+        trimmed = trimmed.sliced(1);
+    while (trimmed.endsWith(u' '))
+        trimmed.chop(1);
+    return trimmed.size() >= 3 &&
+           std::any_of(endings.begin(), endings.end(), [&](QStringView ending) { return trimmed.endsWith(ending); });
+}
+
+} // namespace
+
+void ScaleForm(QWidget &form, QSize designTwips)
+{
+    form.resize(Twips::design(designTwips.width()), Twips::design(designTwips.height()));
+}
+
+void RemoveSystemMenuItems(QWidget &form, bool, bool, bool r2, bool r3, bool r4, bool, bool r6)
+{
+    Qt::WindowFlags flags =
+        form.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    flags.setFlag(Qt::WindowMinimizeButtonHint, !r3);
+    flags.setFlag(Qt::WindowMaximizeButtonHint, !r4);
+    flags.setFlag(Qt::WindowCloseButtonHint, !r6);
+    form.setWindowFlags(flags);
+    if (r2)
+        form.setFixedSize(form.size());
+}
+
+void HookWindow(Forms &forms, Form &form)
+{
+    UnhookWindow(form);
+    auto *watcher = new QObject(form.window());
+    watcher->setObjectName(QLatin1String(WatcherName));
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, watcher,
+                     [&forms, form = &form](Qt::ApplicationState state) {
+                         if (forms.isLoaded(form))
+                             NoteWindowProc(*form, state);
+                     });
+}
+
+void UnhookWindow(Form &form)
+{
+    if (QWidget *window = form.window())
+        delete window->findChild<QObject *>(QLatin1String(WatcherName), Qt::FindDirectChildrenOnly);
+}
+
+void ShowNoteWindows(Program &program)
+{
+    for (Form *form : program.forms.notes()) {
+        QWidget *window = form->window();
+        if (window != nullptr && !window->isVisible())
+            window->show();
+    }
+}
+
+bool IsDialogShowing(const Program &program)
+{
+    const auto all = program.forms.loaded();
+    return std::any_of(all.begin(), all.end(), [](Form *form) {
+        return !isOwnKind(*form) && form->window() != nullptr && form->window()->isVisible();
+    });
+}
+
+void activateNext(Program &program, Form &from)
+{
+    constexpr std::array Kinds{formNames::Note, formNames::NoteStack, formNames::Menu};
+    auto all = program.forms.loaded();
+    const auto at = std::find(all.begin(), all.end(), &from);
+    if (at == all.end())
+        return;
+    std::rotate(all.begin(), at + 1, all.end());
+    const auto next = std::find_if(all.begin(), all.end(), [&](Form *form) {
+        return std::find(Kinds.begin(), Kinds.end(), form->formName()) != Kinds.end() && form->window()->isVisible();
+    });
+    if (next != all.end())
+        windowStacking::SetForegroundWindow(*(*next)->window());
+}
+
+void CloseAllWindows(Program &program)
+{
+    modTimers::SetAutoSave(program, false);
+    const auto all = program.forms.loaded();
+    for (Form *form : all)
+        form->keepPlace();
+    for (auto form = all.rbegin(); form != all.rend(); ++form) {
+        if (!program.forms.isLoaded(*form) || (*form)->formName() == formNames::Menu)
+            continue;
+        if (QWidget *window = (*form)->window())
+            window->hide();
+        (*form)->Destroy();
+        (*form)->unload();
+    }
+    if (Form *panel = program.forms.find(formNames::Menu))
+        panel->window()->hide();
+}
+
+QString DoubleFirstAmpersand(const QString &text)
+{
+    const qsizetype first = text.indexOf(QLatin1Char('&'));
+    return first < 0 ? text : QString(text).insert(first, QLatin1Char('&'));
+}
+
+QString shownCaption(const QString &caption)
+{
+    const qsizetype first = caption.indexOf(QLatin1String("&&"));
+    return first < 0 ? caption : QString(caption).remove(first, 1);
+}
+
+bool IsPictureFile(QStringView path)
+{
+    return endsInOneOf(path, {u"dib", u"bmp", u"gif", u"jpg", u"wmf", u"emf", u"ico", u"cur"});
+}
+
+bool IsSoundFile(QStringView path)
+{
+    return endsInOneOf(path, {u"wav"});
+}
+
+QString FlattenText(const QString &text)
+{
+    const auto isEdge = [](QChar c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; };
+    qsizetype begin = 0;
+    qsizetype end = text.size();
+    while (begin < end && isEdge(text[begin]))
+        ++begin;
+    while (end > begin && (isEdge(text[end - 1]) || text[end - 1].isNull()))
+        --end;
+    QString flat = text.mid(begin, end - begin);
+    flat.replace(QLatin1Char('\t'), QLatin1Char(' '));
+    flat.replace(QLatin1Char('\r'), QLatin1String(", "));
+    flat.remove(QLatin1Char('\n'));
+    return flat;
+}
+
+} // namespace modForms

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "platform/SystemPrompts.h"
+
+#include "platform/windowStacking.h"
+
+#include <QMessageBox>
+#include <QPointer>
+
+namespace
+{
+
+QMessageBox::Icon iconOf(Message::Icon icon)
+{
+    switch (icon) {
+    case Message::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Message::Icon::Critical:
+        return QMessageBox::Critical;
+    case Message::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
+{
+    // The owner may go while the box is open, and takes it along.
+    const QPointer<QMessageBox> box = new QMessageBox(owner != nullptr && owner->isVisible() ? owner : nullptr);
+    box->setObjectName(QStringLiteral("MessageBox"));
+    box->setWindowTitle(message.caption);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(message.text);
+    box->setIcon(iconOf(message.icon));
+    const bool cancel = message.buttons == Message::Buttons::OkCancel;
+    box->setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel
+                                   : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box->setDefaultButton(message.isRash ? QMessageBox::Cancel : QMessageBox::Ok);
+    windowStacking::keepAboveNotes(*box);
+    const QPointer<QWidget> window = owner;
+    const bool isOk = box->exec() == QMessageBox::Ok && box != nullptr;
+    delete box;
+    // Window managers give the focus to a window of the task bar, where notes are not.
+    if (window != nullptr && window->isVisible())
+        window->activateWindow();
+    return isOk ? Answer::Ok : Answer::Cancel;
+}
