@@ -31,8 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     require(survey.notes.size() + survey.beyondRoom.size() + size_t(survey.undecodable) == size_t(survey.recordCount));
     const QByteArray written = writtenBack(survey);
     const DataSurvey again = surveyDataFile(written, {}, Room);
-    require(!again.isFlawed && again.notes.size() == survey.notes.size());
+    require(!again.isDamaged && again.notes.size() == survey.notes.size());
     require(again.beyondRoom.size() == survey.beyondRoom.size() && writtenBack(again) == written);
-    require(survey.isFlawed || survey.recordCount == 0 || written.size() == file.size());
+    require(survey.isDamaged || survey.recordCount == 0 || written.size() == file.size());
     return 0;
 }

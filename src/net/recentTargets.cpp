@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "net/recentTargets.h"
+
+namespace
+{
+
+constexpr qsizetype MostRecent = 10;
+
+} // namespace
+
+QStringList withRecent(QStringList list, const QString &text)
+{
+    if (list.contains(text))
+        return list;
+    list.prepend(text);
+    list.resize(std::min(list.size(), MostRecent));
+    return list;
+}
