@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "drawing/textShortening.h"
 #include "model/modFileIO.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/parts/NoteText.h"
-#include "drawing/textShortening.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -67,7 +67,7 @@ void saveHundredNotes(benchmark::State &run)
         SaveBatch batch(file.state);
         for (clsNoteProps &note : file.notes) {
             note.FrmLeft += 1;
-            static_cast<void>(modFileIO::WriteNoteRecord(file.state, note, true));
+            static_cast<void>(modFileIO::WriteNoteRecord(file.state, note, NoteFate::Keep));
         }
         if (!batch.end())
             run.SkipWithError("not written");

@@ -23,6 +23,7 @@ IDLE = 30
 
 
 def record(number):
+    """In the layout of docs/file-formats.md, as is the file."""
     flags = [0] * 13
     flags[6] = flags[8] = -1
     place = (9.0, 2520.0, 0.0, 15.0 + number % 10 * 1500, 15.0 + number // 10 * 1200, 3300.0)

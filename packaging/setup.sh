@@ -1,12 +1,15 @@
 # SPDX-FileCopyrightText: 2026 The Quillets developers
 # SPDX-License-Identifier: MIT
-# Sourced by run and test: the Debian packages that building, running and testing need.
+# Sourced by run, test and the like: the Debian packages that building, running, testing and checking need.
 # shellcheck shell=bash disable=SC2034
 
 BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev libxcb1-dev libgl1-mesa-dev)
 # Fonts: Latin and symbols, the metric twins of the usual office faces, Japanese, Chinese and Korean, emoji.
 RUN_PACKAGES=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-color-emoji)
 DISPLAY_PACKAGES=(xvfb openbox x11vnc x11-apps imagemagick)
+PACKAGING_PACKAGES=(dpkg-dev file lintian)
+CHECK_PACKAGES=(clang-format clang-tidy shellcheck desktop-file-utils appstream)
+PICTURE_PACKAGES=(imagemagick x11-xserver-utils trayer)
 TEST_PACKAGES=(python3 xvfb openbox xdotool x11-utils clang libclang-rt-14-dev)
 
 # Installs those of the packages that are not there; asks apt for nothing when all are.
@@ -20,6 +23,8 @@ install_packages() {
     local root=()
     [ "$(id -u)" -eq 0 ] || root=(sudo)
     echo "Installing ${missing[*]}"
-    "${root[@]}" apt-get update -qq
-    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    # Another program may be installing too; it is waited for.
+    local apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
+    "${apt[@]}" update
+    "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null
 }
