@@ -3,8 +3,9 @@
 #include "alarms/NoteAlarm.h"
 
 #include "alarms/modAlarm.h"
-#include "platform/SystemClock.h"
 #include "forms/Program.h"
+#include "forms/modFormsSaving.h"
+#include "platform/Clock.h"
 
 NoteAlarm::NoteAlarm(Program &program, Record record, QObject *parent)
     : QObject(parent), m_program(program), m_record(std::move(record))
@@ -55,7 +56,7 @@ void NoteAlarm::AlarmCont()
     if (m_program.file.LoadingData)
         return;
     record->AlarmOn = false;
-    record->SaveTag = 1;
+    modForms::markChanged(m_program, *record);
     setArmed(false);
     emit fired();
 }

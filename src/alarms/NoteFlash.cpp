@@ -21,6 +21,11 @@ void NoteFlash::StartFlashing(const QColor &normal)
     flash();
 }
 
+void NoteFlash::setNormal(const QColor &normal)
+{
+    m_normal = normal;
+}
+
 void NoteFlash::StopFlashing()
 {
     if (!isFlashing())

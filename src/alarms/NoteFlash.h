@@ -16,6 +16,8 @@ public:
 
     /// The first step is taken at once. Started anew with the normal colour where it flashes already.
     void StartFlashing(const QColor &normal);
+    /// The colour that it gives back from now on; nothing where nothing flashes.
+    void setNormal(const QColor &normal);
     /// Gives the normal colour back; does nothing where nothing flashes.
     void StopFlashing();
     bool isFlashing() const { return m_timer.isActive(); }

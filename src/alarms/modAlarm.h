@@ -4,6 +4,8 @@
 
 #include <QDateTime>
 
+#include <tuple>
+
 /// When an alarm goes off. All of it is computed from what is handed in; nothing looks at a clock.
 namespace modAlarm
 {
@@ -24,7 +26,15 @@ struct AlarmMoment
     int hour;
     int minute;
     int second;
+
+    bool operator==(const AlarmMoment &) const = default;
 };
+
+/// The fields of a record that tell whether and when its alarm goes off.
+template <class Record>
+inline constexpr auto moment = std::tuple(&Record::AlarmOn, &Record::AlarmDateDay, &Record::AlarmDateMonth,
+                                          &Record::AlarmDateYear, &Record::AlarmTimeHour, &Record::AlarmTimeMinute,
+                                          &Record::AlarmTimeSecond);
 
 struct Delay
 {

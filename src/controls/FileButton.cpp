@@ -2,23 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "controls/FileButton.h"
 
+#include "drawing/Twips.h"
+#include "drawing/textShortening.h"
 #include "drawing/toolTips.h"
+#include "model/textFile.h"
 
 namespace
 {
 
 constexpr int Width = 230;
-constexpr int EdgeRoom = 20; ///< Of the button's width, left free of text.
+constexpr int EdgeRoom = 20;         ///< Of the button's width, left free of text.
+constexpr int EdgeRoomInTwips = 250; ///< The same where the end is cut.
 constexpr qsizetype LongestMeasured = 1024;
-constexpr QStringView Cut = u"...";
 
-/// The end of a path tells more than its beginning.
-QString fitted(const QString &path, const QFontMetrics &metrics, int width)
+QString cutAtFront(const QString &path, const QFontMetrics &metrics, int width)
 {
     const QString end = path.right(LongestMeasured);
     if (end.size() == path.size() && metrics.horizontalAdvance(path) <= width)
         return path;
-    const int left = width - metrics.horizontalAdvance(Cut.toString());
+    const int left = width - metrics.horizontalAdvance(textShortening::Dots);
     qsizetype good = 0;
     qsizetype bad = end.size() + 1;
     while (bad - good > 1) {
@@ -27,12 +29,13 @@ QString fitted(const QString &path, const QFontMetrics &metrics, int width)
     }
     if (good > 0 && end.at(end.size() - good).isLowSurrogate())
         --good;
-    return Cut.toString() + end.right(good);
+    return textShortening::Dots + end.right(good);
 }
 
 } // namespace
 
-FileButton::FileButton(const QString &name, const QString &accessibleName, QWidget *parent) : QPushButton(parent)
+FileButton::FileButton(const QString &name, const QString &accessibleName, Cut cut, QWidget *parent)
+    : QPushButton(parent), m_cut(cut)
 {
     setObjectName(name);
     setAccessibleName(accessibleName);
@@ -43,9 +46,10 @@ FileButton::FileButton(const QString &name, const QString &accessibleName, QWidg
 
 void FileButton::setPath(const QString &path)
 {
-    m_path = path;
+    // A path may come from a record that somebody made.
+    m_path = textFile::flattened(path);
     setToolTip(toolTips::plain(path));
-    setAccessibleDescription(path.left(LongestMeasured));
+    setAccessibleDescription(m_path.left(LongestMeasured));
     showPath();
 }
 
@@ -62,6 +66,10 @@ void FileButton::resizeEvent(QResizeEvent *event)
 
 void FileButton::showPath()
 {
-    QString text = m_path.isEmpty() ? tr("Choose file") : fitted(m_path, fontMetrics(), width() - EdgeRoom);
+    QString text = tr("Choose file");
+    if (!m_path.isEmpty() && m_cut == Cut::Front)
+        text = cutAtFront(m_path, fontMetrics(), width() - EdgeRoom);
+    else if (!m_path.isEmpty())
+        text = textShortening::shortened(m_path, width() - Twips::design(EdgeRoomInTwips), font());
     setText(text.replace(QLatin1Char('&'), QStringLiteral("&&")));
 }

@@ -4,13 +4,20 @@
 
 #include <QPushButton>
 
-/// A button that shows the chosen file, cut at its front where the path is too long; "Choose file" where there is none.
+/// A button that shows the chosen file, its path cut where it is too long; "Choose file" where there is none.
 class FileButton final : public QPushButton
 {
     Q_OBJECT
 
 public:
-    FileButton(const QString &name, const QString &accessibleName, QWidget *parent);
+    /// The end of a path that is cut.
+    enum class Cut
+    {
+        Front, ///< The file's name is seen.
+        Back
+    };
+
+    FileButton(const QString &name, const QString &accessibleName, Cut cut, QWidget *parent);
 
     void setPath(const QString &path);
     QSize sizeHint() const override;
@@ -22,5 +29,6 @@ protected:
 private:
     void showPath();
 
-    QString m_path;
+    Cut m_cut;
+    QString m_path; ///< One line.
 };

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "controls/fileChoosing.h"
 
-#include "platform/SystemChoosers.h"
-#include "platform/Prompts.h"
 #include "forms/Program.h"
-#include "forms/modForms.h"
+#include "forms/modFormsTexts.h"
+#include "platform/Choosers.h"
+#include "platform/Prompts.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -16,37 +16,44 @@ namespace fileChoosing
 namespace
 {
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("fileChoosing", source);
-}
-
 QString allFiles()
 {
-    return text("All Files (*.*)");
+    return QCoreApplication::translate("fileChoosing", "All Files (*.*)");
 }
 
 QStringList pictureFilters()
 {
-    return {text("All picture files (*.bmp *.dib *.gif *.jpg *.wmf *.emf *.ico *.cur)"),
-            text("Bitmaps (*.bmp *.dib)"),
-            text("GIF Images (*.gif)"),
-            text("JPEG Images (*.jpg)"),
-            text("Metafiles (*.wmf *.emf)"),
-            text("Icons (*.ico *.cur)"),
+    return {QCoreApplication::translate("fileChoosing",
+                                        "All picture files (*.bmp *.dib *.gif *.jpg *.wmf *.emf *.ico *.cur)"),
+            QCoreApplication::translate("fileChoosing", "Bitmaps (*.bmp *.dib)"),
+            QCoreApplication::translate("fileChoosing", "GIF Images (*.gif)"),
+            QCoreApplication::translate("fileChoosing", "JPEG Images (*.jpg)"),
+            QCoreApplication::translate("fileChoosing", "Metafiles (*.wmf *.emf)"),
+            QCoreApplication::translate("fileChoosing", "Icons (*.ico *.cur)"),
             allFiles()};
 }
 
-using Accepts = bool (*)(QStringView path);
+/// Which files are taken, and what is said of the others.
+struct Rule
+{
+    bool (*accepts)(QStringView path);
+    QString refusal;
+    Cancelled cancelled = Cancelled::IsNothing;
+};
 
-std::optional<QString> choose(Program &program, const FileRequest &request, Accepts accepts, const QString &refusal,
-                              QWidget *owner)
+std::optional<QString> choose(Program &program, const FileRequest &request, const Rule &rule, QWidget *owner)
 {
     const QPointer<QWidget> window = owner;
-    const std::optional<QString> chosen = program.choosers().openFile(request, owner);
-    if (!chosen || accepts(*chosen))
+    std::optional<QString> chosen = program.choosers().openFile(request, owner);
+    // A dialog that was closed meanwhile lives until the chooser's events are through.
+    if (window == nullptr || !window->isVisible())
+        return std::nullopt;
+    if (!chosen && rule.cancelled == Cancelled::IsCurrent)
+        chosen = request.current;
+    if (!chosen || rule.accepts(*chosen))
         return chosen;
-    program.prompts().tell({refusal, text("Error"), Message::Icon::Critical}, window);
+    program.prompts().tell(
+        {rule.refusal, QCoreApplication::translate("fileChoosing", "Error"), Message::Icon::Critical}, owner);
     return std::nullopt;
 }
 
@@ -54,19 +61,23 @@ std::optional<QString> choose(Program &program, const FileRequest &request, Acce
 
 std::optional<QString> picture(Program &program, const QString &title, const QString &current, QWidget *owner)
 {
-    return choose(program, {title, pictureFilters(), current}, modForms::IsPictureFile, text("Invalid image file."),
-                  owner);
+    return choose(program, {title, pictureFilters(), current},
+                  {modForms::IsPictureFile, QCoreApplication::translate("fileChoosing", "Invalid image file.")}, owner);
 }
 
-std::optional<QString> sound(Program &program, const QString &title, const QString &current, QWidget *owner)
+std::optional<QString> sound(Program &program, const QString &title, const QString &current, Cancelled cancelled,
+                             QWidget *owner)
 {
-    return choose(program, {title, {text("WAV Files (*.wav)"), allFiles()}, current}, modForms::IsSoundFile,
-                  text("Invalid sound file."), owner);
+    const QString waves = QCoreApplication::translate("fileChoosing", "WAV Files (*.wav)");
+    return choose(
+        program, {title, {waves, allFiles()}, current},
+        {modForms::IsSoundFile, QCoreApplication::translate("fileChoosing", "Invalid sound file."), cancelled}, owner);
 }
 
 std::optional<QString> book(Program &program, const QString &title, const QString &current, QWidget *owner)
 {
-    return program.choosers().openFile({title, {text("Text files (*.txt)"), allFiles()}, current}, owner);
+    const QString texts = QCoreApplication::translate("fileChoosing", "Text files (*.txt)");
+    return program.choosers().openFile({title, {texts, allFiles()}, current}, owner);
 }
 
 } // namespace fileChoosing

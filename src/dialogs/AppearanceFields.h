@@ -4,9 +4,8 @@
 
 #include <QString>
 
-// What the settings of one note and the options of the program have in common, where a dialog keeps it while it is
-// edited. The record outlives the controls that write into it.
-
+/// What a note looks like, where a dialog keeps it while it is edited. The record outlives the controls that write
+/// into it.
 struct AppearanceFields
 {
     qint32 &ForeColor;
@@ -22,17 +21,5 @@ struct AppearanceFields
     {
         return {record.ForeColor,  record.BackColor,    record.FontName,  record.FontSize,
                 record.FontBoldOn, record.FontItalicOn, record.BackPicOn, record.PicFile};
-    }
-};
-
-struct AttentionFields
-{
-    bool &FlashOn;
-    bool &SoundFileOn;
-    QString &SoundFile;
-
-    template <class Record> static AttentionFields of(Record &record)
-    {
-        return {record.FlashOn, record.SoundFileOn, record.SoundFile};
     }
 };

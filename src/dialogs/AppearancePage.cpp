@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/AppearancePage.h"
 
-#include "dialogs/FontPreview.h"
-#include "controls/PictureThumbnail.h"
 #include "controls/CheckRow.h"
 #include "controls/ColourButton.h"
 #include "controls/FileButton.h"
+#include "controls/PictureThumbnail.h"
 #include "controls/fileChoosing.h"
+#include "controls/noteFont.h"
+#include "dialogs/FontPreview.h"
 #include "drawing/NoteInk.h"
-#include "platform/SystemChoosers.h"
 #include "drawing/colours.h"
-#include "platform/Prompts.h"
 #include "forms/Program.h"
+#include "platform/Choosers.h"
 
 #include <QCheckBox>
 #include <QFontInfo>
@@ -40,7 +40,8 @@ AppearancePage::AppearancePage(Program &program, AppearanceFields fields, const 
       m_foreColor(new ColourButton(QStringLiteral("cmdForeColor"), tr("Text color"), this)),
       m_backColor(new ColourButton(QStringLiteral("cmdBackColor"), tr("Background color"), this)),
       m_pictureOn(new CheckRow(QStringLiteral("BackPic"), tr("&Display background picture:"), this)),
-      m_picture(new FileButton(QStringLiteral("cmdPicFile"), tr("Background picture file"), this)),
+      m_picture(
+          new FileButton(QStringLiteral("cmdPicFile"), tr("Background picture file"), FileButton::Cut::Front, this)),
       m_thumbnail(new PictureThumbnail(this))
 {
     auto *layout = new QVBoxLayout(this);
@@ -102,25 +103,18 @@ void AppearancePage::showFields()
     m_preview->showFields(m_fields);
 }
 
-bool AppearancePage::isComplete()
+std::optional<Flaw> AppearancePage::findFlaw() const
 {
     if (!m_fields.BackPicOn || !m_fields.PicFile.isEmpty())
-        return true;
-    m_program.prompts().tell(
-        {tr("You have selected to display a background picture.") + u'\n' + tr("Please enter a valid picture file."),
-         tr("Background Picture Error"), Message::Icon::Critical},
-        window());
-    return false;
+        return std::nullopt;
+    return Flaw{{tr("You have selected to display a background picture.\nPlease enter a valid picture file."),
+                 tr("Background Picture Error"), Message::Icon::Critical},
+                m_picture};
 }
 
 QWidget *AppearancePage::fontField() const
 {
     return m_font;
-}
-
-QWidget *AppearancePage::pictureField() const
-{
-    return m_picture;
 }
 
 void AppearancePage::chooseColour(const ColourButton &button, qint32 &field)
@@ -138,7 +132,7 @@ void AppearancePage::chooseColour(const ColourButton &button, qint32 &field)
 void AppearancePage::chooseFont()
 {
     const QPointer<AppearancePage> self = this;
-    const QFont current = FontPreview::fontOf(m_fields);
+    const QFont current = noteFont::of(m_fields);
     const auto chosen = m_program.choosers().font(current, window());
     if (self == nullptr || !chosen)
         return;

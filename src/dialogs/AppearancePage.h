@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/Flaw.h"
 #include "dialogs/AppearanceFields.h"
 
 #include <QWidget>
@@ -31,11 +32,10 @@ public:
     AppearancePage(Program &program, AppearanceFields fields, const Texts &texts, QWidget *parent);
 
     void showFields();
-    /// False, after a box, when a picture is to be shown and none is chosen.
-    bool isComplete();
+    /// A picture is to be shown and none is chosen.
+    std::optional<Flaw> findFlaw() const;
 
     QWidget *fontField() const;
-    QWidget *pictureField() const;
 
 private:
     QGroupBox *makeColours();

@@ -2,22 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FontPreview.h"
 
-#include "model/textValues.h"
+#include "controls/noteFont.h"
 #include "drawing/NoteInk.h"
 #include "drawing/textShortening.h"
 #include "drawing/toolTips.h"
+#include "model/textValues.h"
 
 #include <QGridLayout>
 #include <QLabel>
 
-#include <cmath>
-
 namespace
 {
 
-constexpr float SmallestPoints = 1.0F;
-constexpr float LargestPoints = 400.0F;
-constexpr float UsualPoints = 9.0F;
 constexpr qreal LargestSample = 30.0;
 constexpr int SampleHeight = 56;
 constexpr int Spacing = 12;
@@ -64,18 +60,6 @@ QLabel *FontPreview::addRow(int row, const QString &suffix, const QString &capti
     return value;
 }
 
-QFont FontPreview::fontOf(const AppearanceFields &fields)
-{
-    QFont font;
-    if (!fields.FontName.isEmpty())
-        font.setFamily(fields.FontName);
-    const float points = std::isfinite(fields.FontSize) && fields.FontSize > 0 ? fields.FontSize : UsualPoints;
-    font.setPointSizeF(static_cast<qreal>(std::clamp(points, SmallestPoints, LargestPoints)));
-    font.setBold(fields.FontBoldOn);
-    font.setItalic(fields.FontItalicOn);
-    return font;
-}
-
 void FontPreview::showFields(const AppearanceFields &fields)
 {
     m_fontName = fields.FontName;
@@ -87,7 +71,7 @@ void FontPreview::showFields(const AppearanceFields &fields)
     colours.setColor(QPalette::Window, ink.paper);
     colours.setColor(QPalette::WindowText, ink.ink);
     m_sample->setPalette(colours);
-    QFont font = fontOf(fields);
+    QFont font = noteFont::of(fields);
     font.setPointSizeF(std::min(font.pointSizeF(), LargestSample));
     m_sample->setFont(font);
 }

@@ -4,7 +4,7 @@
 
 #include "dialogs/AppearanceFields.h"
 
-#include <QFrame>
+#include <QWidget>
 
 class QLabel;
 
@@ -17,8 +17,6 @@ public:
     explicit FontPreview(QWidget *parent);
 
     void showFields(const AppearanceFields &fields);
-    /// The font of the fields, of a size that can be drawn.
-    static QFont fontOf(const AppearanceFields &fields);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

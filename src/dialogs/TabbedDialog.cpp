@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/TabbedDialog.h"
 
-#include "forms/Program.h"
-#include "forms/modForms.h"
+#include "controls/dialogButtons.h"
 
-#include <QDialogButtonBox>
 #include <QFrame>
-#include <QPushButton>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
@@ -18,12 +15,9 @@ namespace
 constexpr int Margin = 12;
 }
 
-TabbedDialog::TabbedDialog(Program &program, const QString &formName, const QString &caption, QWidget *owner)
-    : QDialog(owner), Form(program.forms, formName), m_program(program), m_tabs(new QTabWidget(this))
+TabbedDialog::TabbedDialog(Program &program, QStringView name, const QString &caption, QWidget *owner)
+    : ModalDialog(program, name, caption, owner), m_tabs(new QTabWidget(this))
 {
-    setObjectName(formName);
-    setWindowTitle(caption);
-    setModal(true);
     m_tabs->setObjectName(QStringLiteral("TabOptions"));
     // The pressed tab is shown only after this signal.
     connect(m_tabs, &QTabWidget::tabBarClicked, this, &TabbedDialog::choosePage, Qt::QueuedConnection);
@@ -35,11 +29,6 @@ TabbedDialog::TabbedDialog(Program &program, const QString &formName, const QStr
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Margin);
     layout->addWidget(m_tabs);
-}
-
-TabbedDialog::~TabbedDialog()
-{
-    modForms::ShowNoteWindows(m_program);
 }
 
 void TabbedDialog::addPage(const QString &name, const QString &caption, QWidget *content, QWidget *firstField)
@@ -55,26 +44,17 @@ void TabbedDialog::addPage(const QString &name, const QString &caption, QWidget 
 
 QDialogButtonBox *TabbedDialog::addButtons()
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &TabbedDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &TabbedDialog::reject);
+    auto *buttons =
+        dialogButtons::make(*this, {{QDialogButtonBox::Ok, "cmdOK"}, {QDialogButtonBox::Cancel, "cmdCancel"}});
     layout()->addWidget(buttons);
     return buttons;
 }
 
-void TabbedDialog::select(int page, QWidget *field)
+void TabbedDialog::reveal(QWidget &field)
 {
-    m_tabs->setCurrentIndex(page);
-    field->setFocus();
-}
-
-void TabbedDialog::accept()
-{
-    if (isInOrder())
-        QDialog::accept();
+    for (int page = 0; page < m_tabs->count(); ++page)
+        if (m_tabs->widget(page)->isAncestorOf(&field))
+            m_tabs->setCurrentIndex(page);
 }
 
 void TabbedDialog::showEvent(QShowEvent *event)

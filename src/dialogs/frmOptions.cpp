@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/frmOptions.h"
 
+#include "alarms/AttentionGroup.h"
 #include "dialogs/AppearancePage.h"
-#include "dialogs/AttentionGroup.h"
+#include "forms/Program.h"
 #include "model/modCopyObject.h"
 #include "model/modFileIOOptions.h"
 #include "platform/Prompts.h"
-#include "forms/Program.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -18,13 +18,6 @@ namespace
 constexpr float SmallestSide = 720; // twips
 constexpr float LargestSide = 7200;
 
-enum Page
-{
-    General,
-    Appearance,
-    AlarmPassword
-};
-
 bool isSide(float twips)
 {
     return twips >= SmallestSide && twips <= LargestSide;
@@ -33,7 +26,7 @@ bool isSide(float twips)
 } // namespace
 
 frmOptions::frmOptions(Program &program, QWidget *owner)
-    : TabbedDialog(program, QStringLiteral("frmOptions"), tr("Program Options - Quillets"), owner),
+    : TabbedDialog(program, u"frmOptions", tr("Program Options - Quillets"), owner),
       m_appearance(new AppearancePage(program, AppearanceFields::of(m_options),
                                       {tr("Open Picture File"), tr("Change font o&ptions")}, this))
 {
@@ -61,7 +54,7 @@ void frmOptions::Initialize(const clsprogramoptions &options)
 
 bool frmOptions::OptionsResult(clsprogramoptions &options)
 {
-    if (result() != Accepted)
+    if (!isAccepted())
         return false;
     modCopyObject::CopyOptions(m_options, options);
     program().BuildNoteDefaults();
@@ -72,30 +65,16 @@ bool frmOptions::OptionsResult(clsprogramoptions &options)
     return true;
 }
 
-bool frmOptions::isInOrder()
+std::optional<Flaw> frmOptions::findFlaw()
 {
-    if (!m_appearance->isComplete()) {
-        select(Appearance, m_appearance->pictureField());
-        return false;
-    }
-    if (!m_attention->isComplete()) {
-        select(AlarmPassword, m_attention->soundField());
-        return false;
-    }
-    if (isSizeRight())
-        return true;
-    select(General, isSide(m_options.FrmHeight) ? m_width : m_height);
-    return false;
-}
-
-bool frmOptions::isSizeRight()
-{
+    if (const auto flaw = m_appearance->findFlaw())
+        return flaw;
+    if (const auto flaw = m_attention->findFlaw())
+        return flaw;
     if (isSide(m_options.FrmHeight) && isSide(m_options.FrmWidth))
-        return true;
-    program().prompts().tell(
-        {tr("The default dimensions of a Quillet cannot be less than 0.5 inches or greater than 5 inches.") + u'\n' +
-             tr("Please enter valid dimensions."),
-         tr("Quillet Dimensions Error"), Message::Icon::Critical},
-        this);
-    return false;
+        return std::nullopt;
+    return Flaw{{tr("The default dimensions of a Quillet cannot be less than 0.5 inches or greater than 5 inches.\n"
+                    "Please enter valid dimensions."),
+                 tr("Quillet Dimensions Error"), Message::Icon::Critical},
+                isSide(m_options.FrmHeight) ? m_width : m_height};
 }

@@ -5,6 +5,8 @@
 #include "dialogs/TabbedDialog.h"
 #include "model/clsprogramoptions.h"
 
+#include <functional>
+
 class AppearancePage;
 class AttentionGroup;
 class NumberBox;
@@ -27,24 +29,22 @@ public:
     void Initialize(const clsprogramoptions &options);
 
 protected:
-    bool isInOrder() override;
+    std::optional<Flaw> findFlaw() override;
 
 private:
     // frmOptionsPages.cpp
     QWidget *makeGeneral();
-    QGroupBox *makePersonal(QWidget *page);
-    QGroupBox *makeMiscellaneous(QWidget *page);
+    QGroupBox *makePersonal();
+    QGroupBox *makeMiscellaneous();
     QWidget *makeAlarmPassword();
     QWidget *makeNetworking();
-    QGroupBox *makeSend(QWidget *page);
-    QGroupBox *makeEmail(QWidget *page);
+    QGroupBox *makeSend();
+    QGroupBox *makeEmail();
     QLineEdit *addText(QFormLayout *rows, const QString &name, const QString &caption, QString &field);
     void addCheck(QLayout *layout, const QString &name, const QString &caption, bool &field);
     NumberBox *makeSize(const QString &name, const QString &accessibleName, float &field);
     NumberBox *makePort();
     void addBook(QFormLayout *rows, const QString &name, const QString &caption, const QString &title, QString &field);
-
-    bool isSizeRight();
 
     clsprogramoptions m_options;
     std::vector<std::function<void()>> m_fill; ///< Each shows one field of the options.

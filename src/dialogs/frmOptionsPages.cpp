@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "dialogs/AttentionGroup.h"
+#include "alarms/AttentionGroup.h"
 #include "controls/CheckRow.h"
 #include "controls/FileButton.h"
 #include "controls/NumberBox.h"
 #include "controls/fileChoosing.h"
 #include "dialogs/frmOptions.h"
-#include "model/textFile.h"
 #include "forms/Program.h"
+#include "model/textFile.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -32,6 +32,17 @@ QVBoxLayout *column(QWidget *page, int spacing)
     auto *layout = new QVBoxLayout(page);
     layout->setSpacing(spacing);
     return layout;
+}
+
+QWidget *pageOf(QWidget *dialog, std::initializer_list<QWidget *> groups)
+{
+    auto *page = new QWidget(dialog);
+    QVBoxLayout *layout = column(page, Spacing);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget *group : groups)
+        layout->addWidget(group);
+    layout->addStretch();
+    return page;
 }
 
 QFormLayout *rowsOf(QWidget *group)
@@ -129,7 +140,7 @@ NumberBox *frmOptions::makePort()
 void frmOptions::addBook(QFormLayout *rows, const QString &name, const QString &caption, const QString &title,
                          QString &field)
 {
-    auto *button = new FileButton(name, title, rows->parentWidget());
+    auto *button = new FileButton(name, title, FileButton::Cut::Front, rows->parentWidget());
     rows->addRow(caption, button);
     connect(button, &QPushButton::clicked, this, [this, button, title, &field] {
         const QPointer<FileButton> self = button;
@@ -144,18 +155,13 @@ void frmOptions::addBook(QFormLayout *rows, const QString &name, const QString &
 
 QWidget *frmOptions::makeGeneral()
 {
-    auto *page = new QWidget(this);
-    QVBoxLayout *layout = column(page, Spacing);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makePersonal(page));
-    layout->addWidget(makeMiscellaneous(page));
-    layout->addStretch();
-    return page;
+    QGroupBox *personal = makePersonal();
+    return pageOf(this, {personal, makeMiscellaneous()});
 }
 
-QGroupBox *frmOptions::makePersonal(QWidget *page)
+QGroupBox *frmOptions::makePersonal()
 {
-    auto *group = new QGroupBox(tr("Personal"), page);
+    auto *group = new QGroupBox(tr("Personal"), this);
     QFormLayout *rows = rowsOf(group);
     m_firstText = addText(rows, QStringLiteral("txtName"), tr("&Name:"), m_options.NameName);
     addText(rows, QStringLiteral("txtNameTitle"), tr("&Title:"), m_options.NameTitle);
@@ -163,9 +169,9 @@ QGroupBox *frmOptions::makePersonal(QWidget *page)
     return group;
 }
 
-QGroupBox *frmOptions::makeMiscellaneous(QWidget *page)
+QGroupBox *frmOptions::makeMiscellaneous()
 {
-    auto *group = new QGroupBox(tr("Miscellaneous"), page);
+    auto *group = new QGroupBox(tr("Miscellaneous"), this);
     QVBoxLayout *layout = column(group, Spacing / 3);
     addCheck(layout, QStringLiteral("OnTop"), tr("&Always on top"), m_options.OnTopOn);
     addCheck(layout, QStringLiteral("Toolbar"), tr("Tool&bar"), m_options.ToolBarOn);
@@ -186,42 +192,31 @@ QGroupBox *frmOptions::makeMiscellaneous(QWidget *page)
 
 QWidget *frmOptions::makeAlarmPassword()
 {
-    auto *page = new QWidget(this);
-    QVBoxLayout *layout = column(page, Spacing);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto *password = new QGroupBox(tr("Password"), page);
+    auto *password = new QGroupBox(tr("Password"), this);
     QVBoxLayout *choices = column(password, Spacing / 3);
     addCheck(choices, QStringLiteral("Pwd1"), tr("&Open / Close"), m_options.PwdOpenCloseOn);
     addCheck(choices, QStringLiteral("Pwd2"), tr("&Read-only"), m_options.PwdReadonlyOn);
-    auto *alarm = new QGroupBox(tr("Alarm"), page);
-    m_attention = new AttentionGroup(program(), AttentionFields::of(m_options), tr("Open Sound File"), alarm);
+    auto *alarm = new QGroupBox(tr("Alarm"), this);
+    m_attention =
+        new AttentionGroup(program(), AttentionFields::of(m_options), AttentionGroup::Place::ProgramOptions, alarm);
     QVBoxLayout *attention = column(alarm, 0);
     // The marks of its check boxes begin where those of the group above do.
     attention->setContentsMargins(attention->contentsMargins() - QMargins(CheckRow::MarkRoom, 0, 0, 0));
     attention->addWidget(m_attention);
-    layout->addWidget(password);
-    layout->addWidget(alarm);
-    layout->addStretch();
-    return page;
+    return pageOf(this, {password, alarm});
 }
 
 QWidget *frmOptions::makeNetworking()
 {
-    auto *page = new QWidget(this);
-    QVBoxLayout *layout = column(page, Spacing);
-    layout->setContentsMargins(0, 0, 0, 0);
-    QGroupBox *send = makeSend(page);
-    QGroupBox *email = makeEmail(page);
+    QGroupBox *send = makeSend();
+    QGroupBox *email = makeEmail();
     alignFields({static_cast<QFormLayout *>(send->layout()), static_cast<QFormLayout *>(email->layout())});
-    layout->addWidget(send);
-    layout->addWidget(email);
-    layout->addStretch();
-    return page;
+    return pageOf(this, {send, email});
 }
 
-QGroupBox *frmOptions::makeSend(QWidget *page)
+QGroupBox *frmOptions::makeSend()
 {
-    auto *group = new QGroupBox(tr("Send"), page);
+    auto *group = new QGroupBox(tr("Send"), this);
     QFormLayout *rows = rowsOf(group);
     rows->addRow(tr("&Listening port:"), makePort());
     rows->addRow(QString(),
@@ -230,9 +225,9 @@ QGroupBox *frmOptions::makeSend(QWidget *page)
     return group;
 }
 
-QGroupBox *frmOptions::makeEmail(QWidget *page)
+QGroupBox *frmOptions::makeEmail()
 {
-    auto *group = new QGroupBox(tr("E-mail"), page);
+    auto *group = new QGroupBox(tr("E-mail"), this);
     QFormLayout *rows = rowsOf(group);
     m_emailAddress = addText(rows, QStringLiteral("txtEmailAddress"), tr("&E-mail address:"), m_options.EmailAddress);
     addText(rows, QStringLiteral("txtSmtpServer"), tr("SMTP &server:"), m_options.SMTPServer);

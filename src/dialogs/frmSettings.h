@@ -3,9 +3,10 @@
 #pragma once
 
 #include "dialogs/TabbedDialog.h"
+#include "model/clsNoteProps.h"
 #include "model/clsSettingsProps.h"
 
-class AlarmPage;
+class AlarmEditor;
 class AppearancePage;
 class PasswordProtection;
 
@@ -19,17 +20,18 @@ public:
     frmSettings(Program &program, QWidget *owner);
     ~frmSettings() override;
 
-    /// Writes the settings into the note and marks it changed when OK was chosen; tells whether it was. Applying them
-    /// to the note's window is the caller's business.
+    /// Writes what was changed into the note, which may have changed meanwhile itself, and marks it changed when OK was
+    /// chosen; tells whether it was. Applying them to the note's window is the caller's business.
     bool SettingsResult(clsNoteProps &note);
     void Initialize(const clsNoteProps &note);
 
 protected:
-    bool isInOrder() override;
+    std::optional<Flaw> findFlaw() override;
 
 private:
+    clsSettingsProps m_opened; ///< As they were shown first.
     clsSettingsProps m_settings;
     AppearancePage *m_appearance;
     PasswordProtection *m_protection;
-    AlarmPage *m_alarm;
+    AlarmEditor *m_alarm;
 };

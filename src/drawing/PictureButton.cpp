@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/PictureButton.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -23,6 +24,7 @@ void PictureButton::setPictures(const QString &up, const QString &down)
 
 void PictureButton::setDown(bool down)
 {
+    setAccessibleDescription(down ? tr("On") : tr("Off"));
     if (m_downAtRest == down)
         return;
     m_downAtRest = down;
@@ -53,10 +55,17 @@ void PictureButton::setCaption(const QString &caption)
     setAccessibleName(caption);
 }
 
+void PictureButton::command()
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (modal == nullptr || modal == window())
+        emit commanded();
+}
+
 void PictureButton::beginPress()
 {
     if (m_onRelease) {
-        emit commanded();
+        command();
         return;
     }
     if (m_pressed)
@@ -70,7 +79,7 @@ void PictureButton::finishPress()
 {
     m_pressed = false;
     update();
-    emit commanded();
+    command();
 }
 
 void PictureButton::mousePressEvent(QMouseEvent *event)
@@ -87,7 +96,7 @@ void PictureButton::mouseReleaseEvent(QMouseEvent *event)
 {
     event->setAccepted(event->button() == Qt::LeftButton);
     if (m_onRelease && event->isAccepted() && isEnabled() && rect().contains(event->position().toPoint()))
-        emit commanded();
+        command();
 }
 
 void PictureButton::mouseMoveEvent(QMouseEvent *event)
@@ -136,6 +145,11 @@ void PictureButton::paintEvent(QPaintEvent *)
     }
     const QString &file = m_pressed != m_downAtRest ? m_down : m_up;
     const QPixmap picture = m_pictures.shape(file, ink, devicePixelRatioF());
-    const QSize size = picture.deviceIndependentSize().toSize();
-    painter.drawPixmap((width() - size.width()) / 2, (height() - size.height()) / 2, picture);
+    QSize size = picture.deviceIndependentSize().toSize();
+    if (size.width() > width() || size.height() > height()) {
+        size.scale(this->size(), Qt::KeepAspectRatio);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    }
+    painter.drawPixmap(QRect((width() - size.width()) / 2, (height() - size.height()) / 2, size.width(), size.height()),
+                       picture);
 }

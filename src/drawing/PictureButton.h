@@ -9,8 +9,9 @@
 
 #include <chrono>
 
-/// A small button that is only a picture. A left press shows the pressed picture, waits a moment while everything
-/// else goes on, and then commands; further presses meanwhile do nothing. The command may delete the button's window.
+/// A small button that is only a picture, made smaller where it does not fit. A left press shows the pressed picture,
+/// waits a moment while everything else goes on, and then commands; further presses meanwhile do nothing. The press is
+/// dropped when a modal window has come in front of the button's by then. The command may delete the button's window.
 class PictureButton final : public QAbstractButton
 {
     Q_OBJECT
@@ -21,6 +22,7 @@ public:
     /// File names of the normal and the pressed picture.
     void setPictures(const QString &up, const QString &down);
     /// Shows the pressed picture also at rest, for a button that tells a state; pressing then shows the normal one.
+    /// Its accessible description tells the state to those who do not see it.
     void setDown(bool down);
     void setInk(const QColor &ink);
     /// How long the pressed picture is shown before the command.
@@ -50,6 +52,7 @@ protected:
 private:
     void beginPress();
     void finishPress();
+    void command();
 
     const Pictures &m_pictures;
     QString m_up;

@@ -62,14 +62,6 @@ QPixmap Pictures::shape(const QString &fileName, const QColor &ink, qreal device
     return pixmap;
 }
 
-QPixmap Pictures::coloured(const QString &fileName, qreal devicePixelRatio) const
-{
-    const int scale = scaleFor(devicePixelRatio);
-    QPixmap pixmap(pathFor(fileName, scale));
-    pixmap.setDevicePixelRatio(scale);
-    return pixmap;
-}
-
 QCursor Pictures::cursor(const QString &fileName) const
 {
     auto known = m_cursors.constFind(fileName);

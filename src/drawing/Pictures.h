@@ -18,8 +18,6 @@ public:
 
     /// The shape in the colour, from the file for this device pixel ratio ("x.gif", "x@2x.gif", "x@3x.gif").
     QPixmap shape(const QString &fileName, const QColor &ink, qreal devicePixelRatio) const;
-    /// A picture in its own colours.
-    QPixmap coloured(const QString &fileName, qreal devicePixelRatio) const;
     /// Path of a file of the pictures' folder.
     QString path(const QString &fileName) const { return m_folder + QLatin1Char('/') + fileName; }
     QIcon programIcon() const;

@@ -59,4 +59,15 @@ QString shortened(const QString &text, int maxWidth, const QFont &font)
     return cutAt(text, good);
 }
 
+QString onOneLine(const QString &text)
+{
+    QString line = text;
+    for (QChar &c : line) {
+        const QChar::Category kind = c.category();
+        if (kind == QChar::Other_Control || kind == QChar::Separator_Line || kind == QChar::Separator_Paragraph)
+            c = u' ';
+    }
+    return line;
+}
+
 } // namespace textShortening

@@ -14,4 +14,7 @@ inline constexpr QLatin1String Dots("...");
 /// with "..." behind it; "..." when not even that fits. Measures no more of a long text than could fit on a screen.
 QString shortened(const QString &text, int maxWidth, const QFont &font);
 
+/// Each control character and line end becomes a blank: for where the text is one line, or a tab would begin a column.
+QString onOneLine(const QString &text);
+
 } // namespace textShortening

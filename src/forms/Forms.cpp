@@ -3,6 +3,7 @@
 #include "forms/Forms.h"
 
 #include "forms/Form.h"
+#include "forms/NoteHolder.h"
 
 #include <QWidget>
 
@@ -43,26 +44,62 @@ Form *Forms::find(QStringView formName) const
     return found == m_loaded.end() ? nullptr : *found;
 }
 
+StackHolder *Forms::stack() const
+{
+    return dynamic_cast<StackHolder *>(find(formNames::NoteStack));
+}
+
 std::vector<Form *> Forms::notes() const
 {
     std::vector<Form *> result;
-    std::copy_if(m_loaded.begin(), m_loaded.end(), std::back_inserter(result),
-                 [](const Form *form) { return form->formName() == formNames::Note && form->Tag() != 0; });
+    std::copy_if(m_loaded.begin(), m_loaded.end(), std::back_inserter(result), [](Form *form) {
+        return form->formName() == formNames::Note && form->holder() != nullptr && !form->holder()->tags().empty();
+    });
     return result;
 }
 
 Form *Forms::note(qint32 tag) const
 {
     const auto all = notes();
-    const auto found = std::find_if(all.begin(), all.end(), [tag](const Form *form) { return form->Tag() == tag; });
+    const auto found =
+        std::find_if(all.begin(), all.end(), [tag](Form *form) { return form->holder()->recordOf(tag) != nullptr; });
     return found == all.end() ? nullptr : *found;
 }
 
-Form *Forms::holderOf(qint32 tag) const
+std::vector<NoteHolder *> Forms::holders() const
 {
-    const auto found =
-        std::find_if(m_loaded.begin(), m_loaded.end(), [tag](Form *form) { return form->recordOf(tag) != nullptr; });
-    return found == m_loaded.end() ? nullptr : *found;
+    std::vector<NoteHolder *> result;
+    for (Form *form : m_loaded)
+        if (NoteHolder *holder = form->holder())
+            result.push_back(holder);
+    Form *stack = find(formNames::NoteStack);
+    std::stable_partition(result.begin(), result.end(),
+                          [stack](const NoteHolder *holder) { return stack == nullptr || holder != stack->holder(); });
+    return result;
+}
+
+std::vector<qint32> Forms::tags() const
+{
+    std::vector<qint32> result;
+    for (const NoteHolder *holder : holders()) {
+        const auto tags = holder->tags();
+        result.insert(result.end(), tags.begin(), tags.end());
+    }
+    return result;
+}
+
+NoteHolder *Forms::holderOf(qint32 tag) const
+{
+    for (Form *form : m_loaded)
+        if (NoteHolder *holder = form->holder(); holder != nullptr && holder->recordOf(tag) != nullptr)
+            return holder;
+    return nullptr;
+}
+
+clsNoteProps *Forms::recordOf(qint32 tag) const
+{
+    NoteHolder *holder = holderOf(tag);
+    return holder != nullptr ? holder->recordOf(tag) : nullptr;
 }
 
 void Forms::add(Form *form)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/clsNoteProps.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -9,6 +11,8 @@
 #include <vector>
 
 class Form;
+class NoteHolder;
+class StackHolder;
 
 /// Names of the forms that others look for.
 namespace formNames
@@ -28,14 +32,22 @@ public:
     bool isLoaded(const Form *form) const;
     /// The first form of that name, or null.
     Form *find(QStringView formName) const;
+    /// The NoteStack, or null.
+    StackHolder *stack() const;
     /// The note windows on the desktop: forms named "frmNote" that have a note.
     std::vector<Form *> notes() const;
-    /// The window of the note with this tag, or null.
+    /// The window of the note on the desktop with this tag, or null.
     Form *note(qint32 tag) const;
+    /// Where notes live, in the order of loading; the NoteStack last.
+    std::vector<NoteHolder *> holders() const;
+    /// Tags of all notes: first those of the desktop, then those of the NoteStack.
+    std::vector<qint32> tags() const;
+    /// What the note with this tag lives in, or null.
+    NoteHolder *holderOf(qint32 tag) const;
+    /// The record of the note with this tag, or null.
+    clsNoteProps *recordOf(qint32 tag) const;
     /// Said after the list has changed; for whoever shows how many notes there are.
     std::function<void()> changed;
-    /// The form that the note with this tag lives in, or null.
-    Form *holderOf(qint32 tag) const;
 
 private:
     friend class Form;

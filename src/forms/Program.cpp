@@ -4,11 +4,11 @@
 
 #include "model/modCopyObject.h"
 #include "platform/Browser.h"
-#include "platform/SystemChoosers.h"
-#include "platform/SystemClock.h"
-#include "platform/SystemPrinting.h"
+#include "platform/Choosers.h"
+#include "platform/Clock.h"
+#include "platform/Printing.h"
 #include "platform/Prompts.h"
-#include "platform/SystemSound.h"
+#include "platform/SoundPlayer.h"
 
 #include <QLocale>
 

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/clsNoteProps.h"
-#include "model/clsprogramoptions.h"
-#include "model/modFileIO.h"
 #include "drawing/Pictures.h"
 #include "drawing/Twips.h"
 #include "forms/Forms.h"
+#include "model/clsNoteProps.h"
+#include "model/clsprogramoptions.h"
+#include "model/modFileIO.h"
+#include "model/version.h"
 
+#include <QHash>
 #include <QTimer>
 
 #include <memory>
@@ -58,7 +60,7 @@ public:
     const Twips twips;
     const float ScaleFactor;  ///< Twips per design twip.
     const float DialogOffset; ///< Twips.
-    const QString VersionText = QStringLiteral("v.1.0.0");
+    const QString VersionText = QStringLiteral("v.") + ProgramVersion.toString();
 
     qint32 NoteCounter = 0; ///< Notes created or restored in this run; only grows.
     int SaveProgress = 0;   ///< Notes saved in the save-all that is running.
@@ -74,6 +76,8 @@ public:
     QTimer autoSave;
     /// A write failed and the user has been told; told again only after one has succeeded.
     bool saveFailureTold = false;
+    /// By tag: the picture file that could not be read, which is told once a run.
+    QHash<qint32, QString> unreadablePictures;
 
 private:
     Services m_services;

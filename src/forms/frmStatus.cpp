@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmStatus.h"
 
-#include "platform/windowStacking.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "platform/windowStacking.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -32,7 +32,8 @@ frmStatus::frmStatus(Program &program)
     m_bar->setRange(0, 0);
     auto *cancel = new QPushButton(tr("Cancel"), this);
     cancel->setObjectName(QStringLiteral("cmdCancel"));
-    connect(cancel, &QPushButton::clicked, this, [this] { Cancelled = true; });
+    // Windows that open meanwhile take the release of the button away.
+    connect(cancel, &QPushButton::pressed, this, [this] { Cancelled = true; });
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/modForms.h"
 
-#include "platform/windowStacking.h"
+#include "forms/Form.h"
+#include "forms/NoteHolder.h"
 #include "forms/Program.h"
-#include "forms/modTimers.h"
+#include "platform/windowStacking.h"
 
 #include <QGuiApplication>
 #include <QPointer>
@@ -23,12 +24,8 @@ constexpr auto WatcherName = "NoteWindowProc";
 /// What a watched window is told when another program becomes active.
 void NoteWindowProc(Form &form, Qt::ApplicationState state)
 {
-    if (state != Qt::ApplicationInactive)
-        return;
-    if (form.formName() == formNames::Note)
-        form.ThisFormLostFocus();
-    else
-        form.TextLostFocus();
+    if (state == Qt::ApplicationInactive && form.holder() != nullptr)
+        form.holder()->TextLostFocus();
 }
 
 bool isOwnKind(const Form &form)
@@ -36,17 +33,6 @@ bool isOwnKind(const Form &form)
     constexpr std::array Own{formNames::Note, formNames::NoteStack, formNames::Menu, formNames::Splash,
                              formNames::Status};
     return std::find(Own.begin(), Own.end(), form.formName()) != Own.end();
-}
-
-bool endsInOneOf(QStringView path, std::initializer_list<QStringView> endings)
-{
-    QStringView trimmed = path;
-    while (trimmed.startsWith(u' '))
-        trimmed = trimmed.sliced(1);
-    while (trimmed.endsWith(u' '))
-        trimmed.chop(1);
-    return trimmed.size() >= 3 &&
-           std::any_of(endings.begin(), endings.end(), [&](QStringView ending) { return trimmed.endsWith(ending); });
 }
 
 } // namespace
@@ -88,6 +74,9 @@ void UnhookWindow(Form &form)
 
 void ShowNoteWindows(Program &program)
 {
+    // A dialog within a dialog leaves this to the outer one.
+    if (IsDialogShowing(program))
+        return;
     for (Form *form : program.forms.notes()) {
         QWidget *window = form->window();
         if (window != nullptr && !window->isVisible())
@@ -120,7 +109,7 @@ void activateNext(Program &program, Form &from)
 
 void CloseAllWindows(Program &program)
 {
-    modTimers::SetAutoSave(program, false);
+    program.autoSave.stop();
     const auto all = program.forms.loaded();
     for (Form *form : all)
         form->keepPlace();
@@ -134,44 +123,6 @@ void CloseAllWindows(Program &program)
     }
     if (Form *panel = program.forms.find(formNames::Menu))
         panel->window()->hide();
-}
-
-QString DoubleFirstAmpersand(const QString &text)
-{
-    const qsizetype first = text.indexOf(QLatin1Char('&'));
-    return first < 0 ? text : QString(text).insert(first, QLatin1Char('&'));
-}
-
-QString shownCaption(const QString &caption)
-{
-    const qsizetype first = caption.indexOf(QLatin1String("&&"));
-    return first < 0 ? caption : QString(caption).remove(first, 1);
-}
-
-bool IsPictureFile(QStringView path)
-{
-    return endsInOneOf(path, {u"dib", u"bmp", u"gif", u"jpg", u"wmf", u"emf", u"ico", u"cur"});
-}
-
-bool IsSoundFile(QStringView path)
-{
-    return endsInOneOf(path, {u"wav"});
-}
-
-QString FlattenText(const QString &text)
-{
-    const auto isEdge = [](QChar c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; };
-    qsizetype begin = 0;
-    qsizetype end = text.size();
-    while (begin < end && isEdge(text[begin]))
-        ++begin;
-    while (end > begin && (isEdge(text[end - 1]) || text[end - 1].isNull()))
-        --end;
-    QString flat = text.mid(begin, end - begin);
-    flat.replace(QLatin1Char('\t'), QLatin1Char(' '));
-    flat.replace(QLatin1Char('\r'), QLatin1String(", "));
-    flat.remove(QLatin1Char('\n'));
-    return flat;
 }
 
 } // namespace modForms

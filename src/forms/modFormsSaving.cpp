@@ -1,29 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "platform/Prompts.h"
+#include "forms/modFormsSaving.h"
+
+#include "forms/Form.h"
+#include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/frmStatus.h"
-#include "forms/modForms.h"
+#include "platform/Prompts.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QPointer>
 
 namespace modForms
 {
 namespace
 {
-
-int notesInStack(const Program &program)
-{
-    const Form *stack = program.forms.find(formNames::NoteStack);
-    return stack != nullptr ? stack->noteCount() : 0;
-}
-
-void commitAll(Program &program)
-{
-    for (Form *form : program.forms.loaded())
-        if (program.forms.isLoaded(form))
-            form->commitEditing();
-}
 
 void tellFailure(Program &program, const QString &reason)
 {
@@ -50,83 +41,136 @@ void tellOfForeignFiles(Program &program)
     program.prompts().tell({text + kept.join(u'\n'), QStringLiteral("Quillets"), Message::Icon::Exclamation}, nullptr);
 }
 
-/// The notes that one save-all has put into the image. When the write at its end fails they count as changed again.
-class SaveRun
+void updateRecords(const Program &program)
+{
+    for (NoteHolder *holder : program.forms.holders())
+        holder->updateRecords();
+}
+
+/// The progress window of one long task. Whatever closes the windows of the program ends the task too.
+class Progress
 {
 public:
-    explicit SaveRun(Program &program) : m_program(program), m_batch(program.file) {}
-
-    /// Saves one note window.
-    void save(Form *form)
+    Progress(Program &program, const QString &caption, const QString &text, int total)
+        : m_program(program), m_before(QApplication::activeWindow()), m_status(new frmStatus(program))
     {
-        remember(*form);
-        form->SaveThisNote();
+        m_status->setWindowTitle(caption);
+        m_status->Initialize(text, total);
+        m_status->show();
     }
+    Progress(const Progress &) = delete;
+    Progress &operator=(const Progress &) = delete;
+    ~Progress() { close(); }
 
-    void saveStack()
+    /// Lets events run; false when the task is to end.
+    bool goesOn()
     {
-        if (Form *stack = m_program.forms.find(formNames::NoteStack)) {
-            remember(*stack);
-            stack->SaveThisStackSys();
-        }
+        QCoreApplication::processEvents();
+        return isThere() && !m_status->Cancelled && !m_program.Exiting;
     }
-
-    void saveStack(const std::function<bool(int)> &goOn)
+    void setValue(int value)
     {
-        if (Form *stack = m_program.forms.find(formNames::NoteStack)) {
-            remember(*stack);
-            stack->SaveThisStack(goOn);
-        }
+        if (isThere())
+            m_status->setValue(value);
     }
-
-    void finish()
+    void close()
     {
-        const auto outcome = m_batch.end();
-        if (outcome) {
-            if (m_program.file.readOnlyReason.isEmpty())
-                m_program.saveFailureTold = false;
-            tellOfForeignFiles(m_program);
+        if (!isThere())
             return;
-        }
-        for (Form *form : m_program.forms.loaded())
-            for (const qint32 tag : m_tags)
-                form->markUnsaved(tag);
-        tellFailure(m_program, outcome.error());
+        m_status->unload();
+        // Before an editor takes the loss of the focus for the end of its edit.
+        if (m_before != nullptr && m_before->isVisible())
+            m_before->activateWindow();
     }
 
 private:
-    void remember(const Form &form)
-    {
-        const auto changed = form.changedTags();
-        m_tags.insert(m_tags.end(), changed.begin(), changed.end());
-    }
+    bool isThere() const { return m_status != nullptr && !m_status->isUnloaded(); }
 
     Program &m_program;
-    SaveBatch m_batch;
-    std::vector<qint32> m_tags;
+    QPointer<QWidget> m_before; ///< The window that was active.
+    QPointer<frmStatus> m_status;
 };
 
-std::unique_ptr<frmStatus> showStatus(Program &program, const QString &caption, const QString &text, int total)
+void keepOrder(Program &program)
 {
-    auto status = std::make_unique<frmStatus>(program);
-    status->setWindowTitle(caption);
-    status->Initialize(text, total);
-    status->show();
-    return status;
+    if (StackHolder *stack = program.forms.stack())
+        stack->keepOrder();
+}
+
+/// The end of a batch: notes that are not on the disk count as changed again, and why is told.
+void finish(Program &program, SaveBatch &batch)
+{
+    const auto outcome = batch.end();
+    if (outcome) {
+        if (program.file.readOnlyReason.isEmpty())
+            program.saveFailureTold = false;
+        keepOrder(program);
+        tellOfForeignFiles(program);
+        return;
+    }
+    for (const qint32 tag : program.file.image.tagsNotIn(program.file.disk))
+        if (clsNoteProps *note = program.forms.recordOf(tag))
+            note->SaveTag = 1;
+    tellFailure(program, outcome.error());
+}
+
+/// Saves all notes as they are, one write at the end. `goesOn` is asked before each.
+void saveAll(Program &program, const std::vector<qint32> &tags, const std::function<bool()> &goesOn)
+{
+    SaveBatch batch(program.file);
+    for (const qint32 tag : tags) {
+        if (!goesOn())
+            break;
+        if (clsNoteProps *note = program.forms.recordOf(tag))
+            saveNote(program, *note);
+        ++program.SaveProgress;
+    }
+    finish(program, batch);
+}
+
+/// What a save-all has to do; nothing during a load, and nothing where there is no note and nothing owed.
+std::optional<std::vector<qint32>> beginSaveAll(Program &program)
+{
+    program.SaveProgress = 0;
+    if (program.file.LoadingData)
+        return std::nullopt;
+    updateRecords(program);
+    auto tags = program.forms.tags();
+    return tags.empty() && !program.file.unsaved ? std::nullopt : std::optional(std::move(tags));
 }
 
 } // namespace
+
+void markChanged(Program &, clsNoteProps &note)
+{
+    note.SaveTag = 1;
+}
+
+std::vector<qint32> unsavedTags(const Program &program)
+{
+    std::vector<qint32> tags = program.forms.tags();
+    std::erase_if(tags, [&program](qint32 tag) { return program.forms.recordOf(tag)->SaveTag != 1; });
+    return tags;
+}
+
+bool hasUnsavedNotes(const Program &program)
+{
+    updateRecords(program);
+    return program.file.unsaved || !unsavedTags(program).empty();
+}
 
 void saveNote(Program &program, clsNoteProps &note)
 {
     if (note.SaveTag != 1)
         return;
     using enum WriteResult::Kind;
-    const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, true);
+    const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, NoteFate::Keep);
     if (result.kind == Written || result.kind == Batched)
         note.SaveTag = 0;
-    if (result.kind == Written)
+    if (result.kind == Written) {
         program.saveFailureTold = false;
+        keepOrder(program);
+    }
     if (result.kind == Failed)
         tellFailure(program, result.reason);
     tellOfForeignFiles(program);
@@ -134,112 +178,69 @@ void saveNote(Program &program, clsNoteProps &note)
 
 void removeNote(Program &program, const clsNoteProps &note)
 {
-    const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, false);
+    const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, NoteFate::Remove);
     if (result.kind == WriteResult::Kind::Failed)
         tellFailure(program, result.reason);
 }
 
-bool hasUnsavedNotes(const Program &program)
-{
-    const auto all = program.forms.loaded();
-    return program.file.unsaved ||
-           std::any_of(all.begin(), all.end(), [](const Form *form) { return !form->changedTags().empty(); });
-}
-
 bool SaveAllNotes(Program &program)
 {
-    if (program.file.LoadingData)
+    const auto tags = beginSaveAll(program);
+    if (tags)
+        saveAll(program, *tags, [] { return true; });
+    return tags.has_value();
+}
+
+bool SaveAllWithProgress(Program &program)
+{
+    const auto tags = beginSaveAll(program);
+    if (!tags)
         return false;
-    program.SaveProgress = 0;
-    commitAll(program);
-    const auto notes = program.forms.notes();
-    if (notes.empty() && notesInStack(program) == 0 && !program.file.unsaved)
-        return false;
-    SaveRun run(program);
-    for (Form *note : notes)
-        run.save(note);
-    run.saveStack();
-    run.finish();
+    Progress progress(program, QCoreApplication::translate("Saving", "Saving ... - Quillets"),
+                      QCoreApplication::translate("Saving", "Saving quillets ..."), static_cast<int>(tags->size()));
+    saveAll(program, *tags, [&progress, &program] {
+        progress.setValue(program.SaveProgress);
+        return progress.goesOn();
+    });
     return true;
 }
 
 void rescueNotes(Program &program)
 {
+    updateRecords(program);
     SaveBatch batch(program.file);
-    for (const Form *form : program.forms.loaded())
-        form->rescue([&program](const clsNoteProps &note) {
-            static_cast<void>(modFileIO::WriteNoteRecord(program.file, note, true));
-        });
-}
-
-bool SaveAllWithProgress(Program &program)
-{
-    if (program.file.LoadingData)
-        return false;
-    program.SaveProgress = 0;
-    commitAll(program);
-    const auto notes = program.forms.notes();
-    const int total = static_cast<int>(notes.size()) + notesInStack(program);
-    if (total == 0 && !program.file.unsaved)
-        return false;
-    const auto status = showStatus(program, QCoreApplication::translate("Saving", "Saving ... - Quillets"),
-                                   QCoreApplication::translate("Saving", "Saving quillets ..."), total);
-    SaveRun run(program);
-    for (Form *note : notes) {
-        QCoreApplication::processEvents();
-        if (status->Cancelled)
-            break;
-        if (!program.forms.isLoaded(note))
-            continue;
-        run.save(note);
-        status->setValue(++program.SaveProgress);
-    }
-    const int before = program.SaveProgress;
-    run.saveStack([&status, before](int position) {
-        QCoreApplication::processEvents();
-        status->setValue(before + position);
-        return !status->Cancelled;
-    });
-    status->hide();
-    run.finish();
-    return true;
+    for (const qint32 tag : unsavedTags(program))
+        static_cast<void>(modFileIO::WriteNoteRecord(program.file, *program.forms.recordOf(tag), NoteFate::Keep));
 }
 
 void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags,
              const std::function<void(qint32)> &move)
 {
-    const auto status = showStatus(program, QCoreApplication::translate("Saving", "Transferring ... - Quillets"), text,
-                                   static_cast<int>(tags.size()));
+    Progress progress(program, QCoreApplication::translate("Saving", "Transferring ... - Quillets"), text,
+                      static_cast<int>(tags.size()));
     SaveBatch batch(program.file);
     int moved = 0;
     for (const qint32 tag : tags) {
-        QCoreApplication::processEvents();
-        if (status->Cancelled || program.Exiting)
+        if (!progress.goesOn())
             break;
         move(tag);
-        status->setValue(++moved);
+        progress.setValue(++moved);
     }
-    status->hide();
-    const auto outcome = batch.end();
-    if (outcome)
-        return;
-    for (Form *form : program.forms.loaded())
-        for (const qint32 tag : tags)
-            form->markUnsaved(tag);
-    tellFailure(program, outcome.error());
+    progress.close();
+    finish(program, batch);
 }
 
 void TransferAllToNoteStack(Program &program)
 {
     std::vector<qint32> tags;
-    for (const Form *note : program.forms.notes())
-        tags.push_back(note->Tag());
+    for (Form *form : program.forms.notes())
+        tags.push_back(form->holder()->tags().front());
     if (tags.empty())
         return;
     const QString text = QCoreApplication::translate("Saving", "Transferring all Quillets to NoteStack ...");
     moveAll(program, text, tags, [&program](qint32 tag) {
         if (Form *note = program.forms.note(tag))
-            note->ToTheNoteStack();
+            note->holder()->moveAway(tag);
     });
 }
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/modHelp.h"
 
+#include "forms/Program.h"
 #include "platform/Browser.h"
 #include "platform/Prompts.h"
-#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -22,9 +22,11 @@ void ShowHelp(Program &program)
     if (!QFileInfo(page).isFile())
         tell(QCoreApplication::translate("modHelp", "Web Page not Opened"),
              QCoreApplication::translate("modHelp", "URL Failed"));
-    else if (!program.browser().open(QUrl::fromLocalFile(page)))
-        tell(QCoreApplication::translate("modHelp", "Could not find associated Browser"),
-             QCoreApplication::translate("modHelp", "Browser Not Found"));
+    else
+        program.browser().open(QUrl::fromLocalFile(page), [tell] {
+            tell(QCoreApplication::translate("modHelp", "Could not find associated Browser"),
+                 QCoreApplication::translate("modHelp", "Browser Not Found"));
+        });
 }
 
 } // namespace modHelp

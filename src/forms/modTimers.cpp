@@ -3,7 +3,7 @@
 #include "forms/modTimers.h"
 
 #include "forms/Program.h"
-#include "forms/modForms.h"
+#include "forms/modFormsSaving.h"
 
 #include <QEventLoop>
 

@@ -14,10 +14,12 @@ struct DataFileState
 {
     ProgramPaths paths;
     DataImage image;
+    DataImage disk; ///< What the data file holds: the image as it was last read or written.
     bool LoadingData = false;
     bool SavingData = false;
-    bool unsaved = false;   ///< The image is ahead of the disk.
-    QString readOnlyReason; ///< Not empty: the data file could not be read, so it is never written.
+    bool unsaved = false; ///< The image is ahead of the disk.
+    /// Not empty: the data file could not be read, and is not written before it can be.
+    QString readOnlyReason;
     /// The load of that moment could not keep its damaged data file aside; nothing is written before that is done.
     std::optional<QDateTime> asideOwedSince;
     /// The data file as it was last read or written. Times alone prove nothing: some file systems round them later.

@@ -5,6 +5,7 @@
 #include "model/modStreams.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 
 #include <algorithm>
 
@@ -68,6 +69,28 @@ bool DataImage::keepForeign(const QByteArray &record)
 void DataImage::clear()
 {
     *this = DataImage();
+}
+
+std::vector<qint32> DataImage::tagsNotIn(const DataImage &other) const
+{
+    std::vector<qint32> tags;
+    for (const Entry &entry : m_live) {
+        const auto there = std::find_if(other.m_live.begin(), other.m_live.end(),
+                                        [&entry](const Entry &theirs) { return theirs.tag == entry.tag; });
+        if (there == other.m_live.end() || there->record != entry.record)
+            tags.push_back(entry.tag);
+    }
+    return tags;
+}
+
+QString DataImage::keyOf(qint32 tag) const
+{
+    const auto entry = std::find_if(m_live.begin(), m_live.end(), [tag](const Entry &one) { return one.tag == tag; });
+    if (entry == m_live.end())
+        return {};
+    if (entry->digest.isEmpty())
+        entry->digest = QCryptographicHash::hash(entry->record, QCryptographicHash::Md5).toHex();
+    return QString::fromLatin1(entry->digest);
 }
 
 qint32 DataImage::ImageLength() const

@@ -30,6 +30,12 @@ public:
     bool keepForeign(const QByteArray &record);
     void clear();
 
+    /// Notes whose record is another one in that image, or not in it.
+    std::vector<qint32> tagsNotIn(const DataImage &other) const;
+
+    /// Tells the note's record from others across starts; empty when there is none.
+    QString keyOf(qint32 tag) const;
+
     qint32 ImageLength() const;
     qint32 ImageRecordCount() const;
     /// Empty when there are no records.
@@ -40,6 +46,7 @@ private:
     {
         qint32 tag;
         QByteArray record;
+        mutable QByteArray digest = {}; ///< Of the record, once it was asked for.
     };
 
     std::deque<Entry>::iterator find(qint32 tag);

@@ -3,6 +3,7 @@
 #include "model/DataSurvey.h"
 
 #include "model/DataImage.h"
+#include "model/logs.h"
 #include "model/modStreams.h"
 
 #include <algorithm>
@@ -13,6 +14,8 @@ namespace
 /// Entries may name one record many times. Notes may then take twice the size of the file, which lets a few strays be
 /// shown beside all that is sound.
 constexpr qsizetype NotesPerFileSize = 2;
+
+constexpr QStringView TooMany = u"Too many entries name the same bytes.";
 
 class Surveyor
 {
@@ -29,8 +32,8 @@ private:
     void readHeader();
     void readEntry(int index);
     void takeNote(int number, QByteArrayView record);
-    void keepRecord(QByteArrayView record);
-    void passOver();
+    void keepRecord(int number, QByteArrayView record);
+    void passOver(int number, QStringView reason);
     void addExtent(qsizetype start, qsizetype length);
     bool isTiled();
 
@@ -57,7 +60,7 @@ DataSurvey Surveyor::run()
     readHeader();
     for (int index = 0; index < m_survey.recordCount; ++index)
         readEntry(index);
-    m_survey.isFlawed = m_survey.isFlawed || !isTiled();
+    m_survey.isDamaged = m_survey.isDamaged || !isTiled();
     return std::move(m_survey);
 }
 
@@ -72,7 +75,7 @@ void Surveyor::readHeader()
     const qsizetype available = std::max<qsizetype>(0, m_file.size() - DataImage::HeaderLength);
     const qint32 claimed = numberAt(4);
     m_survey.recordCount = static_cast<int>(std::clamp<qsizetype>(claimed, 0, available / DataImage::EntryLength));
-    m_survey.isFlawed = numberAt(0) != m_file.size() || claimed != m_survey.recordCount;
+    m_survey.isDamaged = claimed != m_survey.recordCount;
 }
 
 void Surveyor::readEntry(int index)
@@ -81,48 +84,47 @@ void Surveyor::readEntry(int index)
     const qsizetype start = qsizetype(numberAt(entry + 4)) - 1;
     const auto length = modStreams::measureNoteRecord(m_file, start);
     if (!length) {
-        passOver();
+        passOver(index + 1, toText(length.error()));
         return;
     }
     addExtent(start, length.value());
-    m_survey.isFlawed = m_survey.isFlawed || length.value() != numberAt(entry + 8);
     const QByteArrayView record = m_file.sliced(start, length.value());
     if (qsizetype(m_survey.notes.size()) < m_room)
         takeNote(index + 1, record);
     else
-        keepRecord(record);
+        keepRecord(index + 1, record);
 }
 
 void Surveyor::takeNote(int number, QByteArrayView record)
 {
     if (record.size() > m_noteBytes) {
-        passOver();
+        passOver(number, TooMany);
         return;
     }
     m_noteBytes -= record.size();
     auto decoded = modStreams::DecodeNoteRecord(record, 0, m_noteTemplate);
     if (!decoded) {
-        passOver();
+        passOver(number, toText(decoded.error()));
         return;
     }
-    m_survey.isFlawed = m_survey.isFlawed || !decoded.value().lossless;
     m_survey.notes.push_back({number, std::move(decoded).value().note, record});
 }
 
-void Surveyor::keepRecord(QByteArrayView record)
+void Surveyor::keepRecord(int number, QByteArrayView record)
 {
     if (record.size() > m_keptBytes) {
-        passOver();
+        passOver(number, TooMany);
         return;
     }
     m_keptBytes -= record.size();
     m_survey.beyondRoom.push_back(record);
 }
 
-void Surveyor::passOver()
+void Surveyor::passOver(int number, QStringView reason)
 {
+    qCWarning(logs::files) << "Record" << number << "of" << m_survey.recordCount << "passed over:" << reason;
     ++m_survey.undecodable;
-    m_survey.isFlawed = true;
+    m_survey.isDamaged = true;
 }
 
 /// Extents longer together than the file cannot tile it, so no more of them are gathered.
@@ -132,7 +134,7 @@ void Surveyor::addExtent(qsizetype start, qsizetype length)
     if (m_extentBytes <= m_file.size())
         m_extents.push_back({start, length});
     else
-        m_survey.isFlawed = true;
+        m_survey.isDamaged = true;
 }
 
 /// Whether the records fill the file from the directory to its end, with no gap and no overlap.

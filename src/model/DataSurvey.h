@@ -23,7 +23,9 @@ struct DataSurvey
     std::vector<Note> notes;
     std::vector<QByteArrayView> beyondRoom; ///< Sound records that were too many, in the directory's order.
     int undecodable = 0;
-    bool isFlawed = false; ///< Writing all of this back would not give the file again.
+    /// Something of the file could not be read: writing all of this back would lose it. A length that the program does
+    /// not go by, or another true than its own, is no damage.
+    bool isDamaged = false;
 };
 
 /// Reads a whole data file; at most `room` notes are made. The views point into the file.

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The look and text of a note, as the send dialog needs them.
+/// The look and text of a note, as sending takes them over.
 struct clsSend
 {
     float FrmHeight = 0;

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "model/modFileIOData.h"
 
-#include "model/wholeFile.h"
+#include "model/DataSurvey.h"
+#include "model/logs.h"
+#include "model/modFileIOFolder.h"
 #include "model/modStreams.h"
+#include "model/wholeFile.h"
 
 #include <QCryptographicHash>
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
@@ -15,9 +18,9 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-Outcome<bool, QString> changeImage(DataImage &image, const clsNoteProps &note, bool keep)
+Outcome<bool, QString> changeImage(DataImage &image, const clsNoteProps &note, NoteFate fate)
 {
-    if (!keep)
+    if (fate == NoteFate::Remove)
         return image.remove(note.Tag);
     return image.put(note.Tag, modStreams::EncodeNoteRecord(note));
 }
@@ -26,10 +29,33 @@ Outcome<Done, QString> settleAside(DataFileState &state)
 {
     if (!state.asideOwedSince)
         return Done{};
-    const auto kept = keepAside(state.paths.DataFile, u"damaged"_s, *state.asideOwedSince);
+    const auto kept = wholeFile::keepAside(state.paths.DataFile, u"damaged"_s, *state.asideOwedSince);
     if (!kept)
         return Failure{kept.error()};
     state.asideOwedSince.reset();
+    return Done{};
+}
+
+/// A data file that could not be read at the start may be there again. Its notes are not shown in this run, but from
+/// then on stored with the others.
+Outcome<Done, QString> takeUpUnread(DataFileState &state)
+{
+    if (state.readOnlyReason.isEmpty())
+        return Done{};
+    const auto file = wholeFile::read(state.paths.DataFile, DataImage::MaximumLength);
+    if (!file && file.error().kind != ReadFailure::Kind::Missing)
+        return Failure{state.readOnlyReason};
+    const QByteArray bytes = file ? file.value() : QByteArray();
+    const DataSurvey survey = surveyDataFile(bytes, {}, 0);
+    if (survey.isDamaged)
+        state.asideOwedSince = QDateTime::currentDateTime();
+    DataImage both = state.image;
+    for (const QByteArrayView record : survey.beyondRoom)
+        if (!both.keepForeign(record.toByteArray()))
+            return Failure{state.readOnlyReason};
+    state.image = std::move(both);
+    state.stamp = modFileIO::stampOf(state.paths.DataFile, bytes);
+    state.readOnlyReason.clear();
     return Done{};
 }
 
@@ -45,37 +71,60 @@ Outcome<Done, QString> keepForeignFile(DataFileState &state)
     if (!state.stamp || !file.isFile() ||
         (file.size() == state.stamp->size && file.lastModified() == state.stamp->modified))
         return Done{};
-    const auto bytes = readWholeFile(state.paths.DataFile, DataImage::MaximumLength);
+    const auto bytes = wholeFile::read(state.paths.DataFile, DataImage::MaximumLength);
     if (bytes && digestOf(bytes.value()) == state.stamp->digest)
         return Done{};
-    const auto kept = keepAside(state.paths.DataFile, u"changed"_s, QDateTime::currentDateTime());
+    const auto kept = wholeFile::keepAside(state.paths.DataFile, u"changed"_s, QDateTime::currentDateTime());
     if (!kept)
         return Failure{kept.error()};
     state.keptMeanwhile.append(kept.value());
     return Done{};
 }
 
-/// The folder may have been removed.
-void ensureFolder(const QString &path)
+/// An empty file tells by itself neither that the user has deleted all notes nor that they were lost. The mark is never
+/// there beside notes: it goes before they are written, and comes after they were deleted.
+void unmarkEmptied(const ProgramPaths &paths)
 {
-    constexpr auto OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    if (!QFileInfo::exists(path) && QDir().mkdir(path))
-        QFile::setPermissions(path, OwnerOnly);
+    if (QFile::exists(paths.EmptiedMark) && !QFile::remove(paths.EmptiedMark))
+        qCWarning(logs::files) << paths.EmptiedMark << "not removed";
+}
+
+Outcome<Done, QString> prepareReplacing(DataFileState &state)
+{
+    // The folder may have been removed.
+    if (!QFileInfo::exists(state.paths.DataFolder))
+        if (auto made = modFileIO::prepareDataFolder(state.paths); !made)
+            return made;
+    if (auto kept = keepForeignFile(state); !kept)
+        return kept;
+    unmarkEmptied(state.paths);
+    return Done{};
+}
+
+/// Even a write that failed may have put these bytes there, only not surely on the disk. They are nobody else's then.
+bool holds(const QString &path, const QByteArray &bytes)
+{
+    const auto file = wholeFile::read(path, DataImage::MaximumLength);
+    return file && file.value() == bytes;
 }
 
 Outcome<Done, QString> replaceDataFile(DataFileState &state)
 {
     const QScopedValueRollback saving(state.SavingData, true);
-    ensureFolder(state.paths.DataFolder);
-    auto written = keepForeignFile(state);
+    if (auto prepared = prepareReplacing(state); !prepared)
+        return prepared;
+    const QString &path = state.paths.DataFile;
     const QByteArray bytes = state.image.bytes();
-    if (written)
-        written = replaceFile(state.paths.DataFile, bytes);
-    if (written) {
-        state.stamp = modFileIO::stampOf(state.paths.DataFile, bytes);
-        state.unsaved = false;
-        ++state.replacements;
-    }
+    auto written = wholeFile::replace(path, bytes);
+    if (written || holds(path, bytes))
+        state.stamp = modFileIO::stampOf(path, bytes);
+    if (!written)
+        return written;
+    if (bytes.isEmpty()) // Without its mark the next start asks once too often.
+        static_cast<void>(wholeFile::replace(state.paths.EmptiedMark, {}));
+    state.disk = state.image;
+    state.unsaved = false;
+    ++state.replacements;
     return written;
 }
 
@@ -86,15 +135,13 @@ DataFileState::Stamp modFileIO::stampOf(const QString &path, QByteArrayView byte
     return {bytes.size(), QFileInfo(path).lastModified(), digestOf(bytes)};
 }
 
-WriteResult modFileIO::WriteNoteRecord(DataFileState &state, const clsNoteProps &note, bool keep)
+WriteResult modFileIO::WriteNoteRecord(DataFileState &state, const clsNoteProps &note, NoteFate fate)
 {
     if (note.Tag < 1)
         return {};
     if (state.LoadingData)
         return {WriteResult::Kind::Deferred, {}};
-    if (!state.readOnlyReason.isEmpty())
-        return {WriteResult::Kind::Failed, state.readOnlyReason};
-    const auto changed = changeImage(state.image, note, keep);
+    const auto changed = changeImage(state.image, note, fate);
     if (!changed)
         return {WriteResult::Kind::Failed, changed.error()};
     state.unsaved = state.unsaved || changed.value();
@@ -109,6 +156,8 @@ Outcome<Done, QString> modFileIO::flush(DataFileState &state)
 {
     if (!state.unsaved || state.LoadingData || state.batchDepth > 0)
         return Done{};
+    if (auto takenUp = takeUpUnread(state); !takenUp)
+        return takenUp;
     if (auto settled = settleAside(state); !settled)
         return settled;
     return replaceDataFile(state);
@@ -123,17 +172,4 @@ Outcome<Done, QString> modFileIO::endBatch(DataFileState &state)
 {
     --state.batchDepth;
     return flush(state);
-}
-
-SaveBatch::~SaveBatch()
-{
-    static_cast<void>(end());
-}
-
-Outcome<Done, QString> SaveBatch::end()
-{
-    DataFileState *const state = std::exchange(m_state, nullptr);
-    if (!state)
-        return Done{};
-    return modFileIO::endBatch(*state);
 }

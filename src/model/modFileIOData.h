@@ -19,6 +19,13 @@ struct LoadReport
     QString problem;       ///< Not empty: for the user to read.
 };
 
+/// What is to become of a note's record.
+enum class NoteFate
+{
+    Keep,
+    Remove
+};
+
 /// What became of one WriteNoteRecord.
 struct WriteResult
 {
@@ -50,8 +57,8 @@ using OnProgress = std::function<void(int k, int n)>;
 LoadReport LoadDataFile(DataFileState &state, const clsNoteProps &noteTemplate, int room, const OnRecord &onRecord,
                         const OnProgress &onProgress, const std::function<void()> &pause, const QDateTime &now);
 
-/// Puts the note's record into the file, or with `keep` false takes it out.
-WriteResult WriteNoteRecord(DataFileState &state, const clsNoteProps &note, bool keep);
+/// Puts the note's record into the file or takes it out.
+WriteResult WriteNoteRecord(DataFileState &state, const clsNoteProps &note, NoteFate fate);
 
 /// Of a data file that was just read or written with these bytes.
 DataFileState::Stamp stampOf(const QString &path, QByteArrayView bytes);
@@ -64,18 +71,3 @@ void beginBatch(DataFileState &state);
 Outcome<Done, QString> endBatch(DataFileState &state);
 
 } // namespace modFileIO
-
-/// A batch that ends with its scope at the latest. Whoever wants to know how the write went calls end().
-class SaveBatch
-{
-public:
-    explicit SaveBatch(DataFileState &state) : m_state(&state) { modFileIO::beginBatch(state); }
-    SaveBatch(const SaveBatch &) = delete;
-    SaveBatch &operator=(const SaveBatch &) = delete;
-    ~SaveBatch();
-
-    Outcome<Done, QString> end();
-
-private:
-    DataFileState *m_state; ///< Null once ended.
-};

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "model/DataSurvey.h"
+#include "model/logs.h"
 #include "model/modFileIOData.h"
+#include "model/modFileIOFolder.h"
 #include "model/wholeFile.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -27,22 +30,25 @@ void tell(LoadReport &report, const QString &problem)
 /// A missing data file is made, as an empty one. No value: the file is there and cannot be read.
 std::optional<QByteArray> readDataFile(DataFileState &state, LoadReport &report)
 {
-    auto file = readWholeFile(state.paths.DataFile, DataImage::MaximumLength);
+    auto file = wholeFile::read(state.paths.DataFile, DataImage::MaximumLength);
     if (file)
         return std::move(file).value();
     if (file.error().kind != ReadFailure::Kind::Missing) {
-        state.readOnlyReason = Texts::tr("The notes could not be read: %1").arg(file.error().reason);
+        state.readOnlyReason =
+            Texts::tr("The stored notes cannot be read, and nothing can be saved until they can be: %1")
+                .arg(file.error().reason);
         tell(report, state.readOnlyReason);
         return std::nullopt;
     }
-    if (const auto made = replaceFile(state.paths.DataFile, {}); !made)
+    QFile::remove(state.paths.EmptiedMark);
+    if (const auto made = wholeFile::replace(state.paths.DataFile, {}); !made)
         tell(report, Texts::tr("The file for the notes could not be made: %1").arg(made.error()));
     return QByteArray();
 }
 
 bool keepCopy(const QString &path, const QString &suffix, const QDateTime &now, LoadReport &report)
 {
-    const auto kept = keepAside(path, suffix, now);
+    const auto kept = wholeFile::keepAside(path, suffix, now);
     if (kept)
         report.keptAside.append(kept.value());
     else
@@ -50,17 +56,22 @@ bool keepCopy(const QString &path, const QString &suffix, const QDateTime &now, 
     return kept.ok();
 }
 
+bool wasEmptied(const DataFileState &state, const QByteArray &file)
+{
+    return file.isEmpty() && QFile::exists(state.paths.EmptiedMark);
+}
+
 /// The former backup is worth keeping when the new one is worth less. False: it must not be overwritten.
 bool secureFormerBackup(const DataFileState &state, const QByteArray &file, const DataSurvey &survey,
                         const QDateTime &now, LoadReport &report)
 {
-    if (!survey.isFlawed && survey.recordCount > 0)
+    if (!survey.isDamaged && (survey.recordCount > 0 || wasEmptied(state, file)))
         return true;
-    const auto former = readWholeFile(state.paths.BackupFile, DataImage::MaximumLength);
+    const auto former = wholeFile::read(state.paths.BackupFile, DataImage::MaximumLength);
     const bool isWorthless =
         former ? former.value().isEmpty() || former.value() == file : former.error().kind == ReadFailure::Kind::Missing;
     return isWorthless ||
-           keepCopy(state.paths.BackupFile, survey.isFlawed ? u"before-damage"_s : u"before-empty"_s, now, report);
+           keepCopy(state.paths.BackupFile, survey.isDamaged ? u"before-damage"_s : u"before-empty"_s, now, report);
 }
 
 void writeBackup(const DataFileState &state, const QByteArray &file, const DataSurvey &survey, const QDateTime &now,
@@ -68,7 +79,7 @@ void writeBackup(const DataFileState &state, const QByteArray &file, const DataS
 {
     if (!secureFormerBackup(state, file, survey, now, report))
         return;
-    const auto written = replaceFile(state.paths.BackupFile, survey.recordCount > 0 ? file : QByteArray());
+    const auto written = wholeFile::replace(state.paths.BackupFile, survey.recordCount > 0 ? file : QByteArray());
     if (!written)
         tell(report, Texts::tr("The backup could not be written: %1").arg(written.error()));
 }
@@ -103,6 +114,7 @@ LoadReport modFileIO::LoadDataFile(DataFileState &state, const clsNoteProps &not
     const QScopedValueRollback loading(state.LoadingData, true);
     LoadReport report;
     state.image.clear();
+    removeLeftovers(state.paths);
     const std::optional<QByteArray> file = readDataFile(state, report);
     if (!file)
         return report;
@@ -110,12 +122,16 @@ LoadReport modFileIO::LoadDataFile(DataFileState &state, const clsNoteProps &not
     DataSurvey survey = surveyDataFile(*file, noteTemplate, room);
     report.overLimit = static_cast<int>(survey.beyondRoom.size());
     report.undecodable = survey.undecodable;
-    if (survey.isFlawed && !keepCopy(state.paths.DataFile, u"damaged"_s, now, report))
+    qCInfo(logs::files) << state.paths.DataFile << "holds" << survey.recordCount << "records:" << survey.notes.size()
+                        << "to be shown," << report.overLimit << "beyond the room," << report.undecodable
+                        << "not read, damaged:" << survey.isDamaged;
+    if (survey.isDamaged && !keepCopy(state.paths.DataFile, u"damaged"_s, now, report))
         state.asideOwedSince = now;
     writeBackup(state, *file, survey, now, report);
     if (survey.recordCount > 0 && pause)
         pause();
     restoreNotes(survey, state.image, onRecord, onProgress, report);
+    state.disk = state.image;
     state.unsaved = state.image.bytes() != *file;
     return report;
 }

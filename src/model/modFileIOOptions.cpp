@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "model/modFileIOOptions.h"
 
-#include "model/wholeFile.h"
 #include "model/modCopyObject.h"
 #include "model/modStreams.h"
 #include "model/textFile.h"
+#include "model/wholeFile.h"
 
 clsprogramoptions modFileIO::SetProgramDefaults(const ProgramPaths &paths, const DesignLook &look)
 {
@@ -26,10 +26,10 @@ clsprogramoptions modFileIO::SetProgramDefaults(const ProgramPaths &paths, const
 
 bool modFileIO::LoadOptionsFile(const ProgramPaths &paths, clsprogramoptions &options)
 {
-    const auto file = readWholeFile(paths.OptionsFile, textFile::MaximumBytes);
+    const auto file = wholeFile::read(paths.OptionsFile, textFile::MaximumBytes);
     if (!file) {
         if (file.error().kind == ReadFailure::Kind::Missing)
-            static_cast<void>(replaceFile(paths.OptionsFile, {}));
+            static_cast<void>(wholeFile::replace(paths.OptionsFile, {}));
         return false;
     }
     if (file.value().isEmpty() || file.value().front() == '\0')
@@ -40,7 +40,7 @@ bool modFileIO::LoadOptionsFile(const ProgramPaths &paths, clsprogramoptions &op
 
 Outcome<Done, QString> modFileIO::SaveOptionsFile(const ProgramPaths &paths, const clsprogramoptions &options)
 {
-    return replaceFile(paths.OptionsFile, modStreams::BuildOptionsText(options));
+    return wholeFile::replaceReadable(paths.OptionsFile, modStreams::BuildOptionsText(options), textFile::MaximumBytes);
 }
 
 clsNoteProps modFileIO::BuildNoteDefaults(const clsprogramoptions &options, const QString &today)

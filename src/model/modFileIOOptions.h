@@ -24,6 +24,7 @@ clsprogramoptions SetProgramDefaults(const ProgramPaths &paths, const DesignLook
 /// Reads the file over the options. False, and nothing changed, when it is missing, unreadable or begins with a 0; a
 /// missing file is made.
 bool LoadOptionsFile(const ProgramPaths &paths, clsprogramoptions &options);
+/// A file that is there and cannot be read is moved aside, never written over.
 Outcome<Done, QString> SaveOptionsFile(const ProgramPaths &paths, const clsprogramoptions &options);
 /// `today` is the date as text.
 clsNoteProps BuildNoteDefaults(const clsprogramoptions &options, const QString &today);

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "model/modFileIORecent.h"
 
-#include "model/wholeFile.h"
 #include "model/textFile.h"
 #include "model/textValues.h"
+#include "model/wholeFile.h"
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ constexpr qsizetype MaximumItems = 10;
 
 MiscLines modFileIO::ReadMiscFile(const ProgramPaths &paths)
 {
-    const auto file = readWholeFile(paths.MiscFile, textFile::MaximumBytes);
+    const auto file = wholeFile::read(paths.MiscFile, textFile::MaximumBytes);
     if (!file)
         return {};
     const QString text = textFile::decode(file.value());
@@ -36,7 +36,8 @@ Outcome<Done, QString> modFileIO::SaveRecentList(const ProgramPaths &paths, Rece
     const qsizetype kept = std::clamp<qsizetype>(count, 0, std::min(items.size(), MaximumItems));
     MiscLines lines = ReadMiscFile(paths);
     (which == RecentList::Email ? lines.email : lines.send) = textFile::flattened(items.first(kept).join(u';'));
-    return replaceFile(paths.MiscFile, textFile::encode(lines.email + u"\r\n"_s + lines.send + u"\r\n"_s));
+    const QByteArray text = textFile::encode(lines.email + u"\r\n"_s + lines.send + u"\r\n"_s);
+    return wholeFile::replaceReadable(paths.MiscFile, text, textFile::MaximumBytes);
 }
 
 QStringList modFileIO::LoadRecentList(const ProgramPaths &paths, RecentList which)

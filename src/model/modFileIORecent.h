@@ -24,7 +24,7 @@ struct MiscLines
 namespace modFileIO
 {
 
-/// Both lines are empty when the file is missing or unreadable.
+/// Both lines are empty when the file is missing or unreadable; the next save moves an unreadable one aside.
 MiscLines ReadMiscFile(const ProgramPaths &paths);
 /// Keeps the first `count` items, ten at most, and the other list as it is.
 Outcome<Done, QString> SaveRecentList(const ProgramPaths &paths, RecentList which, const QStringList &items,

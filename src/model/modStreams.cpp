@@ -8,9 +8,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QtEndian>
 
-#include <bit>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +16,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr quint16 TrueBits = 0xFFFF;
 constexpr qsizetype UnitLength = sizeof(char16_t);
 /// Room for the fixed fields and the lengths of all texts of either form.
 constexpr qsizetype BytesBesideTexts = 102;
@@ -27,50 +24,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(modStreams)
 };
-
-void growTo(qsizetype end, QByteArray &buffer)
-{
-    if (buffer.size() < end)
-        buffer.resize(end);
-}
-
-template <class Number> void writeNumber(Number value, qsizetype &position, QByteArray &buffer)
-{
-    growTo(position + qsizetype(sizeof(Number)), buffer);
-    qToLittleEndian(value, buffer.data() + position);
-    position += qsizetype(sizeof(Number));
-}
-
-bool isAvailable(qsizetype count, qsizetype position, QByteArrayView buffer)
-{
-    return position >= 0 && position <= buffer.size() && count <= buffer.size() - position;
-}
-
-template <class Number> Outcome<Number, StreamError> readNumber(qsizetype &position, QByteArrayView buffer)
-{
-    if (!isAvailable(qsizetype(sizeof(Number)), position, buffer))
-        return Failure{StreamError::Truncated};
-    const Number value = qFromLittleEndian<Number>(buffer.data() + position);
-    position += qsizetype(sizeof(Number));
-    return value;
-}
-
-/// The bytes of a text, its length checked in every way.
-Outcome<QByteArrayView, StreamError> takeText(qsizetype &position, QByteArrayView buffer)
-{
-    qsizetype from = position;
-    const auto length = modStreams::ReadLong(from, buffer);
-    if (!length)
-        return Failure{length.error()};
-    if (length.value() < 0)
-        return Failure{StreamError::NegativeLength};
-    if (length.value() % UnitLength != 0)
-        return Failure{StreamError::OddLength};
-    if (!isAvailable(length.value(), from, buffer))
-        return Failure{StreamError::Truncated};
-    position = from + length.value();
-    return buffer.sliced(from, length.value());
-}
 
 template <class Value> constexpr auto writer = nullptr;
 template <> constexpr auto writer<bool> = modStreams::WriteBoolean;
@@ -134,7 +87,7 @@ template <class Value> std::optional<StreamError> skipField(qsizetype &position,
 {
     const auto ignore = [](const auto &) {};
     if constexpr (std::is_same_v<Value, QString>)
-        return step(takeText, position, buffer, ignore);
+        return step(modStreams::takeString, position, buffer, ignore);
     else
         return step(reader<Value>, position, buffer, ignore);
 }
@@ -165,9 +118,6 @@ Outcome<DecodedNote, StreamError> decode(const Form &form, QByteArrayView buffer
     if (const auto flaw = readFields(form, decoded.note, position, buffer))
         return Failure{*flaw};
     decoded.length = position - start;
-    QByteArray again;
-    writeFields(form, decoded.note, again);
-    decoded.lossless = again == buffer.sliced(start, decoded.length);
     return decoded;
 }
 
@@ -208,72 +158,6 @@ QString toText(StreamError error)
         return Texts::tr("The record begins outside the file.");
     }
     Q_UNREACHABLE();
-}
-
-void modStreams::WriteBoolean(bool value, qsizetype &position, QByteArray &buffer)
-{
-    writeNumber<quint16>(value ? TrueBits : 0, position, buffer);
-}
-
-void modStreams::WriteInteger(qint16 value, qsizetype &position, QByteArray &buffer)
-{
-    writeNumber(value, position, buffer);
-}
-
-void modStreams::WriteLong(qint32 value, qsizetype &position, QByteArray &buffer)
-{
-    writeNumber(value, position, buffer);
-}
-
-void modStreams::WriteSingle(float value, qsizetype &position, QByteArray &buffer)
-{
-    writeNumber(std::bit_cast<quint32>(value), position, buffer);
-}
-
-void modStreams::WriteString(QStringView value, qsizetype &position, QByteArray &buffer)
-{
-    WriteLong(static_cast<qint32>(value.size() * UnitLength), position, buffer);
-    if (value.isEmpty())
-        return;
-    growTo(position + value.size() * UnitLength, buffer);
-    qToLittleEndian<quint16>(value.utf16(), value.size(), buffer.data() + position);
-    position += value.size() * UnitLength;
-}
-
-Outcome<bool, StreamError> modStreams::ReadBoolean(qsizetype &position, QByteArrayView buffer)
-{
-    const auto bits = readNumber<quint16>(position, buffer);
-    if (!bits)
-        return Failure{bits.error()};
-    return bits.value() != 0;
-}
-
-Outcome<qint16, StreamError> modStreams::ReadInteger(qsizetype &position, QByteArrayView buffer)
-{
-    return readNumber<qint16>(position, buffer);
-}
-
-Outcome<qint32, StreamError> modStreams::ReadLong(qsizetype &position, QByteArrayView buffer)
-{
-    return readNumber<qint32>(position, buffer);
-}
-
-Outcome<float, StreamError> modStreams::ReadSingle(qsizetype &position, QByteArrayView buffer)
-{
-    const auto bits = readNumber<quint32>(position, buffer);
-    if (!bits)
-        return Failure{bits.error()};
-    return std::bit_cast<float>(bits.value());
-}
-
-Outcome<QString, StreamError> modStreams::ReadString(qsizetype &position, QByteArrayView buffer)
-{
-    const auto bytes = takeText(position, buffer);
-    if (!bytes)
-        return Failure{bytes.error()};
-    QString text(bytes.value().size() / UnitLength, Qt::Uninitialized);
-    qFromLittleEndian<quint16>(bytes.value().data(), text.size(), text.data());
-    return text;
 }
 
 QByteArray modStreams::EncodeNoteRecord(const clsNoteProps &note)

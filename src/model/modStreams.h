@@ -25,7 +25,6 @@ struct DecodedNote
 {
     clsNoteProps note;
     qsizetype length = 0; ///< Bytes that the record takes.
-    bool lossless = true; ///< Encoding the note again gives the same bytes.
 };
 
 /// Notes as bytes and options as text. Numbers are little-endian, positions are 0-based byte indices. Readers check
@@ -46,6 +45,8 @@ Outcome<qint16, StreamError> ReadInteger(qsizetype &position, QByteArrayView buf
 Outcome<qint32, StreamError> ReadLong(qsizetype &position, QByteArrayView buffer);
 Outcome<float, StreamError> ReadSingle(qsizetype &position, QByteArrayView buffer);
 Outcome<QString, StreamError> ReadString(qsizetype &position, QByteArrayView buffer);
+/// As ReadString, without building the text: its bytes.
+Outcome<QByteArrayView, StreamError> takeString(qsizetype &position, QByteArrayView buffer);
 
 /// The file form of a note.
 QByteArray EncodeNoteRecord(const clsNoteProps &note);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "model/clsprogramoptions.h"
+#include "model/logs.h"
 #include "model/modStreams.h"
 #include "model/textFile.h"
 #include "model/textValues.h"
@@ -112,7 +113,10 @@ bool modStreams::ApplyOption(clsprogramoptions &options, QStringView key, QStrin
 {
     const auto found = std::find_if(OptionKeys.begin(), OptionKeys.end(),
                                     [key](const OptionKey &option) { return option.key == key; });
-    return found != OptionKeys.end() && found->fromText(options, value);
+    const bool isTaken = found != OptionKeys.end() && found->fromText(options, value);
+    if (!isTaken && found != OptionKeys.end())
+        qCWarning(logs::files) << "Option refused:" << found->key;
+    return isTaken;
 }
 
 void modStreams::ParseOptionsText(const QByteArray &bytes, clsprogramoptions &options)

@@ -10,7 +10,8 @@
 namespace textFile
 {
 
-inline constexpr qint64 MaximumBytes = 64 * 1024 * 1024;
+/// Of such a file; longer ones are neither read nor written.
+inline constexpr qint64 MaximumBytes = 1024 * 1024;
 
 QByteArray encode(const QString &text);
 /// Reads both forms up to the first 0 byte; tabs become blanks.

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "model/wholeFile.h"
 
+#include "model/fileSync.h"
+#include "model/logs.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -20,7 +23,7 @@ constexpr QFileDevice::Permissions OwnerOnly = QFileDevice::ReadOwner | QFileDev
 
 struct Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(fileReplace)
+    Q_DECLARE_TR_FUNCTIONS(wholeFile)
 };
 
 /// A device may take fewer bytes than it was given without calling that an error, a full disk above all; the attempt to
@@ -71,40 +74,56 @@ std::optional<ReadFailure> obstacle(const QString &path)
     return std::nullopt;
 }
 
-} // namespace
-
-Outcome<Done, QString> replaceFile(const QString &path, QByteArrayView bytes)
+Outcome<Done, QString> writeAnew(const QString &path, QByteArrayView bytes)
 {
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Failure{file.errorString()};
-    if (!file.setPermissions(OwnerOnly) || !writeAll(file, bytes)) {
-        const QString reason = file.errorString();
+    // Some file systems know no permissions; that is no reason to lose a note.
+    if (!file.setPermissions(OwnerOnly))
+        file.unsetError();
+    // The library's own sync does not tell when it fails.
+    auto written = writeAll(file, bytes) ? fileSync::syncFile(file.handle()) : Failure{file.errorString()};
+    if (!written) {
         file.cancelWriting();
-        return Failure{reason};
+        return written;
     }
     if (!file.commit())
         return Failure{file.errorString()};
-    return Done{};
+    return fileSync::syncFolder(QFileInfo(path).path());
 }
 
-Outcome<QString, QString> keepAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
+Outcome<QString, QString> copyAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
 {
-    const auto bytes = readWholeFile(sourcePath, std::numeric_limits<qint32>::max());
+    const auto bytes = wholeFile::read(sourcePath, std::numeric_limits<qint32>::max());
     if (!bytes)
         return Failure{bytes.error().reason};
     const auto path = reserveAsideName(sourcePath, suffix, now);
     if (!path)
         return path;
-    if (const auto written = replaceFile(path.value(), bytes.value()); !written) {
+    if (const auto written = wholeFile::replace(path.value(), bytes.value()); !written) {
         QFile::remove(path.value());
         return Failure{written.error()};
     }
     return path;
 }
 
-Outcome<QByteArray, ReadFailure> readWholeFile(const QString &path, qint64 maxBytes)
+/// For what cannot be read, and so not be copied; it may even be a folder.
+Outcome<QString, QString> moveAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
+{
+    for (int attempt = 1;; ++attempt) {
+        const QString name = asideName(QFileInfo(sourcePath), suffix, now, attempt);
+        if (QDir().rename(sourcePath, name)) {
+            qCInfo(logs::files) << sourcePath << "moved aside as" << name;
+            return name;
+        }
+        if (!QFileInfo::exists(name))
+            return Failure{Texts::tr("%1 cannot be read, and cannot be moved aside.").arg(sourcePath)};
+    }
+}
+
+Outcome<QByteArray, ReadFailure> readAll(const QString &path, qint64 maxBytes)
 {
     if (const auto found = obstacle(path))
         return Failure{*found};
@@ -116,5 +135,48 @@ Outcome<QByteArray, ReadFailure> readWholeFile(const QString &path, qint64 maxBy
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError || bytes.size() < file.size())
         return Failure{ReadFailure{ReadFailure::Kind::Unreadable, file.errorString()}};
+    return bytes;
+}
+
+} // namespace
+
+Outcome<Done, QString> wholeFile::replace(const QString &path, QByteArrayView bytes)
+{
+    const auto written = writeAnew(path, bytes);
+    if (written)
+        qCInfo(logs::files) << path << "replaced by" << bytes.size() << "bytes";
+    else
+        qCWarning(logs::files) << path << "not replaced:" << written.error();
+    return written;
+}
+
+Outcome<Done, QString> wholeFile::replaceReadable(const QString &path, QByteArrayView bytes, qint64 maxBytes)
+{
+    if (bytes.size() > maxBytes)
+        return Failure{Texts::tr("The file would become too large.")};
+    const auto former = wholeFile::read(path, maxBytes);
+    if (!former && former.error().kind != ReadFailure::Kind::Missing)
+        if (auto moved = moveAside(path, u"unreadable"_s, QDateTime::currentDateTime()); !moved)
+            return Failure{moved.error()};
+    return wholeFile::replace(path, bytes);
+}
+
+Outcome<QString, QString> wholeFile::keepAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
+{
+    const auto kept = copyAside(sourcePath, suffix, now);
+    if (kept)
+        qCInfo(logs::files) << sourcePath << "kept aside as" << kept.value();
+    else
+        qCWarning(logs::files) << sourcePath << "not kept aside:" << kept.error();
+    return kept;
+}
+
+Outcome<QByteArray, ReadFailure> wholeFile::read(const QString &path, qint64 maxBytes)
+{
+    auto bytes = readAll(path, maxBytes);
+    if (bytes)
+        qCInfo(logs::files) << path << "read," << bytes.value().size() << "bytes";
+    else
+        qCWarning(logs::files) << path << "not read:" << bytes.error().reason;
     return bytes;
 }

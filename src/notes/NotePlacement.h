@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/clsNoteProps.h"
 #include "drawing/Twips.h"
+#include "model/clsNoteProps.h"
 
 #include <QRect>
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "notes/NoteToolbar.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -23,8 +25,16 @@ constexpr ButtonStrip::Button Buttons[] = {
 NoteToolbar::NoteToolbar(const Pictures &pictures, QWidget *note)
     : ButtonStrip(pictures, QStringLiteral("fraButtons"), Buttons, DatePoints, note)
 {
-    for (const Command command : {Command::Email, Command::Send})
-        setUnavailable(static_cast<size_t>(command), tr("Not in this version yet."));
+    for (const NoteCommand command : {NoteCommand::Email, NoteCommand::Send}) {
+        button(command).setEnabled(false);
+        button(command).setToolTip(tr("Not in this version yet."));
+    }
+}
+
+PictureButton &NoteToolbar::button(NoteCommand command)
+{
+    return ButtonStrip::button(
+        static_cast<size_t>(std::find(Commands.begin(), Commands.end(), command) - Commands.begin()));
 }
 
 void NoteToolbar::layOut(const NoteLayout &layout)
@@ -34,8 +44,8 @@ void NoteToolbar::layOut(const NoteLayout &layout)
         return;
     setGeometry(layout.buttons);
     for (size_t i = 0; i < buttonCount(); ++i) {
-        button(i).setGeometry(layout.images[i]);
-        button(i).setVisible(layout.imageFits[i]);
+        ButtonStrip::button(i).setGeometry(layout.images[i]);
+        ButtonStrip::button(i).setVisible(layout.imageFits[i]);
     }
     placeStatus(layout.edit);
 }
@@ -53,6 +63,6 @@ void NoteToolbar::setEditing(bool editing)
 
 void NoteToolbar::UpdateToolbarIcons(const clsNoteProps &note)
 {
-    button(static_cast<size_t>(Command::Alarm)).setDown(note.AlarmOn);
-    button(static_cast<size_t>(Command::Password)).setDown(note.PwdOn);
+    button(NoteCommand::Alarm).setDown(note.AlarmOn);
+    button(NoteCommand::Password).setDown(note.PwdOn);
 }

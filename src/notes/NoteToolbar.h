@@ -3,7 +3,10 @@
 #pragma once
 
 #include "notes/NoteLayout.h"
+#include "notes/commands/NoteMenu.h"
 #include "notes/parts/ButtonStrip.h"
+
+#include <array>
 
 /// The toolbar of a desktop note.
 class NoteToolbar final : public ButtonStrip
@@ -11,16 +14,9 @@ class NoteToolbar final : public ButtonStrip
     Q_OBJECT
 
 public:
-    /// In the order in which they stand.
-    enum class Command
-    {
-        Help,
-        Settings,
-        Email,
-        Send,
-        Alarm,
-        Password
-    };
+    /// In the order in which the buttons stand.
+    static constexpr std::array Commands{NoteCommand::Help, NoteCommand::Settings, NoteCommand::Email,
+                                         NoteCommand::Send, NoteCommand::Alarm,    NoteCommand::Password};
 
     NoteToolbar(const Pictures &pictures, QWidget *note);
 
@@ -31,5 +27,7 @@ public:
     void UpdateToolbarIcons(const clsNoteProps &note);
 
 private:
+    PictureButton &button(NoteCommand command);
+
     QString m_date;
 };

@@ -2,34 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "notes/frmNote.h"
 
-#include "notes/commands/noteEditing.h"
-#include "notes/commands/noteTitles.h"
-#include "notes/ResizeHandles.h"
-#include "notes/parts/LockOverlay.h"
-#include "notes/parts/NoteBody.h"
-#include "notes/parts/NoteTitle.h"
-#include "drawing/textShortening.h"
 #include "drawing/colours.h"
-#include "platform/SystemSound.h"
-#include "platform/windowStacking.h"
-#include "security/noteLocks.h"
+#include "drawing/textShortening.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsSaving.h"
+#include "notes/ResizeHandles.h"
+#include "notes/commands/NoteMenus.h"
+#include "notes/commands/noteDressing.h"
+#include "notes/commands/noteTitles.h"
+#include "notes/parts/LockOverlay.h"
+#include "notes/parts/NoteTitle.h"
+#include "platform/SoundPlayer.h"
+#include "platform/windowStacking.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
-using namespace std::chrono_literals;
-
-namespace
-{
-constexpr auto PlaceSettles = 300ms;
-} // namespace
-
-frmNote::frmNote(Program &program)
+frmNote::frmNote(Program &program, const HomeRules &home)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), Form(program.forms, formNames::Note.toString()),
-      m_program(program), m_alarm(program, [this] { return isUnloaded() ? nullptr : &m_record; }), m_drag(*this),
-      m_body(new NoteBody(this)), m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_drag))
+      NoteHost(program), m_home(home), m_note(program, this), m_place(program, *this, m_note),
+      m_overlay(new LockOverlay(this)), m_handles(new ResizeHandles(this, m_place.drag()))
 {
     setObjectName(formName());
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -39,10 +33,9 @@ frmNote::frmNote(Program &program)
     // In this order the Tab key goes through them.
     makeTitleBar();
     m_toolbar = new NoteToolbar(program.pictures(), this);
-    m_placeTimer.setSingleShot(true);
-    m_placeTimer.setInterval(PlaceSettles);
-    m_drag.setLimits(NoteLayout::smallestSize(), false);
-    connectParts();
+    m_menus = new NoteMenus(*this, home, *m_menu, Twips::design(NoteLayout::MenuDrop));
+    connectTitleBar();
+    connectNote();
 }
 
 frmNote::~frmNote() = default;
@@ -65,61 +58,124 @@ void frmNote::makeTitleBar()
     m_exit->setCaption(tr("To NoteStack"));
 }
 
-void frmNote::connectParts()
+void frmNote::connectTitleBar()
 {
     connect(&m_title->label(), &TitleLabel::pressed, this, &frmNote::startMove);
-    connect(&m_title->label(), &TitleLabel::dragged, this, [this](QPoint at) { m_drag.move(at); });
+    connect(&m_title->label(), &TitleLabel::dragged, this, [this](QPoint at) { m_place.drag().move(at); });
     connect(&m_title->label(), &TitleLabel::released, this, &frmNote::endMove);
     connect(&m_title->label(), &TitleLabel::doubleClicked, this, &frmNote::scrollStep);
-    connect(m_title, &NoteTitle::edited, this, &frmNote::titleEdited);
-    connect(m_menu, &PictureButton::pressedDown, this, [this] { m_pressedWhileOpen = m_menuOpen; });
-    connect(m_menu, &PictureButton::commanded, this, &frmNote::menuCommanded);
-    connect(m_minimize, &PictureButton::commanded, this, &frmNote::deleteNote);
-    connect(m_exit, &PictureButton::commanded, this, &frmNote::exitCommanded);
+    connect(m_title, &NoteTitle::edited, this, [this](const QString &text) { titleEdited(text); });
+    connect(m_menus, &NoteMenus::chosen, this, &frmNote::run);
+    connect(m_minimize, &PictureButton::commanded, this, [this] { run(NoteCommand::Delete); });
+    connect(m_exit, &PictureButton::commanded, this, [this] { run(NoteCommand::Move); });
     connect(m_toolbar, &NoteToolbar::commanded, this,
-            [this](int index) { commanded(static_cast<NoteToolbar::Command>(index)); });
+            [this](int index) { run(NoteToolbar::Commands[static_cast<size_t>(index)]); });
     connect(m_toolbar, &NoteToolbar::clickedElsewhere, this, &frmNote::EndTextEditing);
-    connect(m_body, &NoteBody::textPressed, this, [this](Qt::MouseButton button, QPoint at) {
-        if (button == Qt::LeftButton)
-            beginTextEditing();
-        else
-            openShortMenu(at);
-    });
-    connect(m_body, &NoteBody::editingChanged, m_toolbar, &NoteToolbar::setEditing);
-    connect(m_body, &NoteBody::committed, this, [this](const QString &text) {
-        if (!m_locked)
-            m_record.Data = text;
-        markChanged();
-    });
-    connect(m_overlay, &LockOverlay::clicked, this, &frmNote::unlock);
-    connect(m_handles, &ResizeHandles::sized, this, [this] {
-        storeSize();
-        storePlace();
-    });
-    connect(&m_alarm, &NoteAlarm::armedChanged, this, &frmNote::UpdateToolbarIcons);
-    connect(&m_alarm, &NoteAlarm::fired, this, &frmNote::signalAlarm);
-    connect(&m_flash, &NoteFlash::colourChanged, this, &frmNote::showFlash);
-    connect(&m_flash, &NoteFlash::raiseWanted, this, [this] {
-        if (!m_record.OnTopOn)
-            windowStacking::bringForward(*this);
-    });
-    connect(&m_placeTimer, &QTimer::timeout, this, &frmNote::storePlace);
 }
 
-void frmNote::InitiateNote(clsNoteProps record)
+void frmNote::connectNote()
 {
-    m_record = std::move(record);
-    // Before anything is shown of it: boxes may open while the note is dressed.
-    m_locked = noteLocks::opensLocked(m_record);
+    connect(&m_note.body, &NoteBody::textPressed, this, [this](Qt::MouseButton button, QPoint at) {
+        if (button != Qt::LeftButton)
+            return m_menus->openShort(at);
+        stopFlashing();
+        action().editText();
+    });
+    connect(&m_note.body, &NoteBody::editingChanged, m_toolbar, &NoteToolbar::setEditing);
+    connect(m_overlay, &LockOverlay::clicked, this, [this] { action().unlock(); });
+    connect(m_handles, &ResizeHandles::sized, &m_place, &NotePlace::storePlace);
+    connect(&m_note.alarm, &NoteAlarm::armedChanged, this, &frmNote::UpdateToolbarIcons);
+    connect(&m_note.alarm, &NoteAlarm::fired, this, &frmNote::signalAlarm);
+    connect(&m_flash, &NoteFlash::colourChanged, this, &frmNote::showFlash);
+    connect(&m_flash, &NoteFlash::raiseWanted, this, [this] {
+        // What is modal stays on top: it could neither be seen nor answered below a note.
+        if (!m_note.record.OnTopOn && QApplication::activeModalWidget() == nullptr)
+            windowStacking::bringForward(*this);
+    });
+}
+
+bool frmNote::become(clsNoteProps record, const QRect &geometry, NoteCreateMode mode, Lid lid)
+{
+    const QPointer<frmNote> self = this;
+    InitiateNote(std::move(record), lid);
+    if (!m_note.record.ToolBarOn)
+        RemoveToolBar();
+    m_place.placeAt(geometry);
+    ApplyNoteAppearance();
+    if (self != nullptr && !isUnloaded())
+        ApplyNoteState(mode);
+    if (self == nullptr || isUnloaded())
+        return false;
+    m_place.setReady();
+    m_place.keepFirstPlace();
+    return true;
+}
+
+void frmNote::InitiateNote(clsNoteProps record, Lid lid)
+{
+    m_note.take(std::move(record), lid);
     modForms::HookWindow(m_program.forms, *this);
-    m_toolbar->setDate(m_record.DateCreated);
-    ScaleNoteControls();
+    m_toolbar->setDate(m_note.record.DateCreated);
+    // Controls are laid out in pixels; what is left to scale is the size that a note has before its record is applied.
+    resize(Twips::design(NoteLayout::DefaultWidth), Twips::design(NoteLayout::DefaultHeight));
     UpdateToolbarIcons();
 }
 
-QString frmNote::title() const
+void frmNote::ApplyNoteAppearance()
 {
-    return noteTitles::title(m_record);
+    m_note.dress(font());
+    dressInk();
+    noteDressing::dressPicture(m_program, m_note.record, m_note.body, this);
+}
+
+void frmNote::ApplyNoteState(NoteCreateMode)
+{
+    clsNoteProps &record = m_note.record;
+    windowStacking::SetWindowOnTop(*this, record.OnTopOn);
+    if (record.FrmScrolledOn)
+        ScrollForm();
+    if (record.TitleBarTitle.isEmpty())
+        record.TempTitle = QString::number(record.Tag);
+    showTitle(m_note);
+    UpdateToolbarIcons();
+    if (m_note.locked)
+        lockform();
+    const QPointer<frmNote> self = this;
+    noteDressing::checkSound(m_program, record, this);
+    if (self != nullptr && !isUnloaded())
+        m_note.alarm.ArmNoteAlarm();
+}
+
+void frmNote::dressInk()
+{
+    const NoteInk &ink = m_note.ink;
+    for (PictureButton *button : {m_menu, m_exit, m_minimize})
+        button->setInk(ink.buttonInk);
+    m_title->setInk(ink.ink, ink.paper);
+    m_toolbar->setInk(ink.buttonInk, ink.faintInk);
+    m_overlay->setInk(ink.ink, ink.paper);
+    m_note.body.setInk(ink);
+    update();
+}
+
+void frmNote::showTitle(LiveNote &note)
+{
+    m_title->setTitle(noteTitles::title(note.record));
+    setWindowTitle(m_title->windowTitle());
+}
+
+void frmNote::showLock(LiveNote &note)
+{
+    m_exit->setVisible(!note.locked);
+    m_minimize->setVisible(!note.locked);
+    m_overlay->setVisible(note.locked);
+    m_handles->setMode(note.record.FrmScrolledOn, note.locked);
+    LayoutNote();
+}
+
+void frmNote::SetFocusToTitleBar()
+{
+    action().editTitle();
 }
 
 QString frmNote::ShortenString(const QString &text, int maxWidth, const QString &fontName, qreal fontSize) const
@@ -130,141 +186,112 @@ QString frmNote::ShortenString(const QString &text, int maxWidth, const QString 
     return textShortening::shortened(text, maxWidth, measured);
 }
 
+std::vector<qint32> frmNote::tags() const
+{
+    return Tag() == 0 || isUnloaded() ? std::vector<qint32>() : std::vector{Tag()};
+}
+
+void frmNote::updateRecords()
+{
+    m_place.storeSettling();
+    NoteHost::updateRecords();
+}
+
 void frmNote::SaveThisNote()
 {
-    if (m_placeTimer.isActive())
-        storePlace();
-    modForms::saveNote(m_program, m_record);
-}
-
-std::vector<qint32> frmNote::changedTags() const
-{
-    return m_record.SaveTag == 1 ? std::vector{m_record.Tag} : std::vector<qint32>();
-}
-
-void frmNote::rescue(const std::function<void(const clsNoteProps &)> &write) const
-{
-    clsNoteProps record = m_record;
-    if (m_body->isEditing())
-        record.Data = m_body->typedText();
-    if (m_record.SaveTag == 1 || m_body->isEditing())
-        write(record);
-}
-
-void frmNote::markUnsaved(qint32 tag)
-{
-    if (tag == m_record.Tag)
-        markChanged();
-}
-
-void frmNote::commitEditing()
-{
-    m_title->commitQuietly();
-    m_body->commit();
-}
-
-void frmNote::ThisFormLostFocus()
-{
-    m_body->commit();
+    m_place.storeSettling();
+    modForms::saveNote(m_program, m_note.record);
 }
 
 void frmNote::Destroy()
 {
     m_closing = true;
-    m_placeTimer.stop();
-    m_flash.StopFlashing();
-    m_alarm.Destroy();
+    m_place.close();
+    stopFlashing();
+    m_note.alarm.Destroy();
     m_title->giveUp();
     modForms::UnhookWindow(*this);
 }
 
-void frmNote::RemoveFromDesktop()
+void frmNote::letGo(qint32)
 {
-    m_body->commit();
     Destroy();
-    modForms::removeNote(m_program, m_record);
     unload();
 }
 
-void frmNote::beginTextEditing()
+void frmNote::moveAway(qint32)
 {
-    m_flash.StopFlashing();
-    const QPointer<frmNote> self = this;
-    if (m_locked || m_body->isEditing())
-        return;
-    if (!noteEditing::mayEdit(m_program, m_record, this) || self == nullptr || m_locked || isUnloaded())
-        return;
-    activateWindow();
-    m_body->BeginTextEditing(m_record.Data);
+    ToTheNoteStack();
 }
 
-void frmNote::EndTextEditing()
+void frmNote::ToTheNoteStack()
 {
-    m_body->commit();
-    m_flash.StopFlashing();
+    action().move();
 }
 
 void frmNote::ResetAlarms()
 {
-    m_alarm.ArmNoteAlarm();
+    m_note.alarm.ArmNoteAlarm();
 }
 
 void frmNote::signalAlarm()
 {
-    if (m_record.FlashOn)
-        m_flash.StartFlashing(colours::fromLong(m_record.BackColor));
-    if (m_record.SoundFileOn)
+    if (m_note.record.FlashOn)
+        m_flash.StartFlashing(colours::fromLong(m_note.record.BackColor));
+    if (m_note.record.SoundFileOn)
         PlayAlarmSound();
 }
 
 void frmNote::PlayAlarmSound()
 {
-    m_program.sound().play(m_record.SoundFile);
+    m_program.sound().play(m_note.record.SoundFile);
 }
 
 /// The colours of the record stay as they are; only what is seen alternates, with a text that can be read on both.
 void frmNote::showFlash(const QColor &paper)
 {
-    const bool isOwn = paper == colours::fromLong(m_record.BackColor);
-    m_ink = NoteInk::from(colours::toLong(paper), isOwn ? m_record.ForeColor : colours::SystemText);
+    const clsNoteProps &record = m_note.record;
+    const bool isOwn = paper == colours::fromLong(record.BackColor);
+    m_note.ink = NoteInk::from(colours::toLong(paper), isOwn ? record.ForeColor : colours::SystemText);
     dressInk();
 }
 
+/// A note that flashes goes on, in its new colours: only a click ends it.
 void frmNote::recordChanged(qint32)
 {
-    m_flash.StopFlashing();
+    m_flash.setNormal(colours::fromLong(m_note.record.BackColor));
     const QPointer<frmNote> self = this;
     ApplyNoteAppearance();
     if (self == nullptr || isUnloaded())
         return;
     UpdateToolbarIcons();
-    m_alarm.ArmNoteAlarm();
+    m_note.alarm.ArmNoteAlarm();
 }
 
-void frmNote::mousePressEvent(QMouseEvent *event)
+void frmNote::UpdateToolbarIcons()
 {
-    event->accept();
-    EndTextEditing();
+    m_toolbar->UpdateToolbarIcons(m_note.record);
 }
 
-void frmNote::closeEvent(QCloseEvent *event)
+void frmNote::EndTextEditing()
 {
-    // A note is deleted on purpose or goes with the program; a window manager's close does neither.
-    event->setAccepted(m_closing);
+    m_note.body.commit();
+    stopFlashing();
 }
 
 void frmNote::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    const NoteInk &ink = m_note.ink;
     const int titleHeight = NoteLayout::rolledHeight();
-    painter.fillRect(rect(), m_ink.paper);
-    painter.fillRect(QRect(0, 0, width(), titleHeight), m_ink.titleStrip);
+    painter.fillRect(rect(), ink.paper);
+    painter.fillRect(QRect(0, 0, width(), titleHeight), ink.titleStrip);
     if (height() > titleHeight + 1)
-        painter.fillRect(QRect(0, titleHeight, width(), 1), m_ink.titleLine);
+        painter.fillRect(QRect(0, titleHeight, width(), 1), ink.titleLine);
     if (m_toolbar->isVisible())
-        painter.fillRect(QRect(0, m_toolbar->geometry().bottom() + 1, width(), 1), m_ink.toolLine);
+        painter.fillRect(QRect(0, m_toolbar->geometry().bottom() + 1, width(), 1), ink.toolLine);
     // Rectangles, not lines: a line of a pen would lie beside the edge at other scales than 1.
     for (const QRect &edge : {QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1), QRect(0, 0, 1, height()),
                               QRect(width() - 1, 0, 1, height())})
-        painter.fillRect(edge, m_ink.outline);
+        painter.fillRect(edge, ink.outline);
 }

@@ -2,15 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "notes/modCreateNote.h"
 
-#include "notes/NotePlacement.h"
-#include "platform/SystemClock.h"
-#include "platform/Prompts.h"
-#include "platform/windowStacking.h"
+#include "forms/Form.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "notes/NotePlacement.h"
+#include "notes/desktopHome.h"
+#include "notes/frmNote.h"
+#include "platform/Prompts.h"
+#include "platform/windowStacking.h"
 
 #include <QGuiApplication>
-#include <QLocale>
 #include <QScreen>
 
 namespace modCreateNote
@@ -19,16 +20,6 @@ namespace
 {
 
 constexpr QPoint CascadeMargin(48, 48);
-
-void stamp(Program &program, clsNoteProps &record, bool toNoteStack, NoteCreateMode mode)
-{
-    record.NoteStackOn = toNoteStack;
-    if (mode != NoteCreateMode::Move)
-        record.Tag = ++program.NoteCounter;
-    if (mode == NoteCreateMode::New)
-        record.DateCreated = QLocale().toString(program.clock().now(), QLocale::ShortFormat);
-    record.SaveTag = 1;
-}
 
 std::vector<QRect> screens()
 {
@@ -53,19 +44,9 @@ NotePlacement placementOf(const Program &program, const clsNoteProps &record)
     return NotePlacement::of(record, program.twips, screens(), fallback, cascadeStart(program), record.Tag - 1);
 }
 
-qint32 createInStack(Program &program, clsNoteProps record, NoteCreateMode mode)
-{
-    stamp(program, record, true, mode);
-    if (Form *stack = program.forms.find(formNames::NoteStack))
-        stack->AddANote(record);
-    return record.Tag;
-}
-
 /// Shows a note that is dressed, unless a dialog is open: the dialog shows it when it goes.
 void showNote(Program &program, frmNote &note, NoteCreateMode mode)
 {
-    note.setReady();
-    note.keepFirstPlace();
     if (modForms::IsDialogShowing(program))
         return;
     note.show();
@@ -76,22 +57,13 @@ void showNote(Program &program, frmNote &note, NoteCreateMode mode)
         note.SetFocusToTitleBar();
 }
 
-qint32 createOnDesktop(Program &program, clsNoteProps record, NoteCreateMode mode)
+qint32 createOnDesktop(Program &program, clsNoteProps record, NoteCreateMode mode, Lid lid)
 {
-    auto *note = new frmNote(program);
-    stamp(program, record, false, mode);
+    auto *note = new frmNote(program, DesktopHome);
+    noteMoves::stamp(program, record, Home::Desktop, mode);
     const qint32 tag = record.Tag;
-    note->InitiateNote(std::move(record));
-    const clsNoteProps &held = *note->GetThisNoteProps();
-    if (!held.ToolBarOn)
-        note->RemoveToolBar();
-    note->placeAt(placementOf(program, held).geometry);
-    // Boxes may open while the note is dressed, and events run behind them.
-    const QPointer<frmNote> guard = note;
-    note->ApplyNoteAppearance();
-    if (guard != nullptr && !note->isUnloaded())
-        note->ApplyNoteState(mode);
-    if (guard != nullptr && !note->isUnloaded())
+    const QRect geometry = placementOf(program, record).geometry;
+    if (note->become(std::move(record), geometry, mode, lid))
         showNote(program, *note, mode);
     return tag;
 }
@@ -105,34 +77,27 @@ void tellLimit(Program &program, QWidget *owner)
                            owner);
 }
 
-qint32 CreateNote(Program &program, clsNoteProps record, bool toNoteStack, NoteCreateMode mode)
+qint32 CreateNote(Program &program, clsNoteProps record, Home home, NoteCreateMode mode, Lid lid)
 {
     if (program.NoteCounter >= MostNotes && mode != NoteCreateMode::Move) {
         tellLimit(program);
         return 0;
     }
-    return toNoteStack ? createInStack(program, std::move(record), mode)
-                       : createOnDesktop(program, std::move(record), mode);
+    return home == Home::NoteStack ? noteMoves::intoNoteStack(program, std::move(record), mode, lid)
+                                   : createOnDesktop(program, std::move(record), mode, lid);
 }
 
-/// The note changes its place in the data file in one step and is never absent from it.
-void moveNote(Program &program, const clsNoteProps &record, bool toNoteStack, bool locked)
+void moveToDesktop(Program &program, const clsNoteProps &record, Lid lid)
 {
-    const qint32 tag = CreateNote(program, record, toNoteStack, NoteCreateMode::Move);
-    Form *holder = program.forms.holderOf(tag);
-    if (holder == nullptr)
-        return;
-    if (locked)
-        holder->lockNote(tag);
-    modForms::saveNote(program, *holder->recordOf(tag));
+    noteMoves::settle(program, CreateNote(program, record, Home::Desktop, NoteCreateMode::Move, lid));
 }
 
-void createNewNote(Program &program, bool toNoteStack, QWidget *owner)
+void createNewNote(Program &program, Home home, QWidget *owner)
 {
     if (program.NoteCounter >= MostNotes)
         tellLimit(program, owner);
     else
-        CreateNote(program, program.NoteTemplate, toNoteStack, NoteCreateMode::New);
+        CreateNote(program, program.NoteTemplate, home, NoteCreateMode::New);
 }
 
 } // namespace modCreateNote

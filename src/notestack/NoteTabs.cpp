@@ -84,7 +84,10 @@ QSize NoteTabs::minimumTabSizeHint(int index) const
 
 void NoteTabs::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Home)
+    // With Ctrl they are the text's.
+    if (event->modifiers().testFlag(Qt::ControlModifier))
+        event->ignore();
+    else if (event->key() == Qt::Key_Home)
         setCurrentIndex(0);
     else if (event->key() == Qt::Key_End)
         setCurrentIndex(count() - 1);

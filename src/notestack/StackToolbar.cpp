@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "notestack/StackToolbar.h"
 
+#include <array>
+
 using namespace std::chrono_literals;
 
 namespace
@@ -36,6 +38,14 @@ StackToolbar::StackToolbar(const Pictures &pictures, QWidget *parent)
     setPause(Pause);
     for (const Command command : {Command::Email, Command::Send})
         setUnavailable(static_cast<size_t>(command), tr("Not in this version yet."));
+}
+
+NoteCommand StackToolbar::noteCommand(Command command)
+{
+    constexpr std::array Commands{NoteCommand::None,  NoteCommand::Delete, NoteCommand::Move,  NoteCommand::Settings,
+                                  NoteCommand::Email, NoteCommand::Send,   NoteCommand::Alarm, NoteCommand::Password,
+                                  NoteCommand::Help,  NoteCommand::None};
+    return Commands[static_cast<size_t>(command)];
 }
 
 void StackToolbar::showState(const clsNoteProps *note)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "notes/commands/NoteMenu.h"
 #include "notes/parts/ButtonStrip.h"
 
 /// The toolbar of the NoteStack.
@@ -10,7 +11,7 @@ class StackToolbar final : public ButtonStrip
     Q_OBJECT
 
 public:
-    /// In the order in which they stand.
+    /// In the order in which they stand. Two are commands of the window, the others of the chosen note.
     enum class Command
     {
         Add,
@@ -24,6 +25,8 @@ public:
         Help,
         Hide
     };
+    /// None for those of the window.
+    static NoteCommand noteCommand(Command command);
 
     StackToolbar(const Pictures &pictures, QWidget *parent);
 

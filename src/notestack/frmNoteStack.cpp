@@ -2,18 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "notestack/frmNoteStack.h"
 
-#include "notes/parts/LockOverlay.h"
-#include "notes/parts/NoteTitle.h"
-#include "notestack/NoteTabs.h"
-#include "notestack/StackNote.h"
-#include "notestack/StackPage.h"
-#include "platform/windowStacking.h"
+#include "controls/SizeGrip.h"
+#include "drawing/textShortening.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
 #include "forms/modHelp.h"
+#include "notes/commands/LiveNote.h"
+#include "notes/commands/NoteAction.h"
+#include "notes/commands/NoteMenus.h"
+#include "notes/commands/noteTitles.h"
+#include "notes/parts/LockOverlay.h"
+#include "notes/parts/NoteTitle.h"
+#include "notestack/NoteTabs.h"
+#include "notestack/StackPage.h"
+#include "notestack/TabbedNotes.h"
+#include "notestack/stackHome.h"
+#include "platform/windowStacking.h"
 
+#include <QActionGroup>
 #include <QCloseEvent>
-#include <QMouseEvent>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -29,11 +39,12 @@ constexpr int ListSide = 24;
 constexpr int Picture = 16;
 constexpr int TitleLeft = 26;
 constexpr int GripSide = 16;
+constexpr int ListWidth = 320; ///< Of a title in the list of all.
 
 } // namespace
 
 frmNoteStack::frmNoteStack(Program &program)
-    : Form(program.forms, formNames::NoteStack.toString()), m_program(program), m_drag(*this)
+    : Form(program.forms, formNames::NoteStack.toString()), NoteHost(program), m_drag(*this)
 {
     setObjectName(formName());
     setWindowTitle(tr("NoteStack - Quillets"));
@@ -51,9 +62,8 @@ frmNoteStack::~frmNoteStack() = default;
 
 void frmNoteStack::makeParts()
 {
-    const Pictures &pictures = m_program.pictures();
     m_tabs = new NoteTabs(this);
-    m_tabs->addTab(QString());
+    m_notes = std::make_unique<TabbedNotes>(*m_tabs);
     m_list = new QToolButton(this);
     m_list->setObjectName(QStringLiteral("cmdTabList"));
     m_list->setArrowType(Qt::DownArrow);
@@ -61,6 +71,23 @@ void frmNoteStack::makeParts()
     m_list->setToolTip(tr("All notes"));
     m_list->setAccessibleName(tr("All notes"));
     m_page = new StackPage(this);
+    makeTitleBar();
+    m_toolbar = new StackToolbar(m_program.pictures(), m_page);
+    m_overlay = new LockOverlay(m_page);
+    m_empty = new QWidget(m_page);
+    m_empty->setObjectName(QStringLiteral("fraEmpty"));
+    auto *empty = new QLabel(tr("NoteStack is empty"));
+    empty->setObjectName(QStringLiteral("lblEmpty"));
+    (new QVBoxLayout(m_empty))->addWidget(empty, 0, Qt::AlignCenter);
+    m_grip = new SizeGrip(m_program.pictures(), m_drag, m_page);
+    m_drag.setLimits({Twips::design(MinimumDesign.width()), Twips::design(MinimumDesign.height())},
+                     WindowDrag::Height::Free);
+    m_menus = new NoteMenus(*this, StackHome, *m_menu, Picture);
+}
+
+void frmNoteStack::makeTitleBar()
+{
+    const Pictures &pictures = m_program.pictures();
     m_titleBar = new QWidget(m_page);
     m_titleBar->setObjectName(QStringLiteral("fraTitleBar"));
     m_menu = new PictureButton(pictures, QStringLiteral("imgMenu"), m_titleBar);
@@ -71,37 +98,21 @@ void frmNoteStack::makeParts()
     m_exit = new PictureButton(pictures, QStringLiteral("imgExit"), m_titleBar);
     m_exit->setPictures(QStringLiteral("minimizeup.gif"), QStringLiteral("closeactive.gif"));
     m_exit->setCaption(tr("Delete"));
-    m_toolbar = new StackToolbar(pictures, m_page);
-    m_overlay = new LockOverlay(m_page);
-    m_empty = new QWidget(m_page);
-    m_empty->setObjectName(QStringLiteral("fraEmpty"));
-    auto *empty = new QLabel(tr("NoteStack is empty"));
-    empty->setObjectName(QStringLiteral("lblEmpty"));
-    (new QVBoxLayout(m_empty))->addWidget(empty, 0, Qt::AlignCenter);
-    m_grip = new QLabel(m_page);
-    m_grip->setObjectName(QStringLiteral("imgResize"));
-    m_grip->setCursor(Qt::SizeFDiagCursor);
-    m_grip->installEventFilter(this);
-    m_drag.setLimits({Twips::design(MinimumDesign.width()), Twips::design(MinimumDesign.height())}, false);
 }
 
 void frmNoteStack::connectParts()
 {
     connect(m_tabs, &QTabBar::currentChanged, this, &frmNoteStack::tabChosen);
     connect(m_list, &QToolButton::clicked, this, &frmNoteStack::showTabList);
-    connect(m_menu, &PictureButton::pressedDown, this, [this] { m_pressedWhileOpen = m_menuOpen; });
-    connect(m_menu, &PictureButton::commanded, this, &frmNoteStack::menuCommanded);
-    connect(m_exit, &PictureButton::commanded, this, [this] {
-        if (const StackNote *note = chosen())
-            deleteNote(note->record.Tag);
-    });
+    connect(m_menus, &NoteMenus::chosen, this, &frmNoteStack::run);
+    connect(m_exit, &PictureButton::commanded, this, [this] { action().askAndDelete(); });
     connect(m_toolbar, &StackToolbar::commanded, this,
             [this](int index) { toolbarCommanded(static_cast<StackToolbar::Command>(index)); });
-    connect(m_toolbar, &StackToolbar::clickedElsewhere, this, &frmNoteStack::TextLostFocus);
-    connect(m_overlay, &LockOverlay::clicked, this, &frmNoteStack::unlock);
-    connect(m_title, &NoteTitle::edited, this, &frmNoteStack::titleEdited);
-    connect(&m_title->label(), &TitleLabel::pressed, this, &frmNoteStack::TextLostFocus);
-    connect(&m_title->label(), &TitleLabel::doubleClicked, this, &frmNoteStack::editTitle);
+    connect(m_toolbar, &StackToolbar::clickedElsewhere, this, [this] { TextLostFocus(); });
+    connect(m_overlay, &LockOverlay::clicked, this, [this] { action().unlock(); });
+    connect(m_title, &NoteTitle::edited, this, [this](const QString &text) { titleEdited(text); });
+    connect(&m_title->label(), &TitleLabel::pressed, this, [this] { TextLostFocus(); });
+    connect(&m_title->label(), &TitleLabel::doubleClicked, this, [this] { action().editTitle(); });
 }
 
 void frmNoteStack::makeShortcuts()
@@ -118,7 +129,7 @@ void frmNoteStack::makeShortcuts()
     add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [step] { step(1); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [step] { step(-1); });
     add(QKeySequence(Qt::Key_F1), [this] { modHelp::ShowHelp(m_program); });
-    add(QKeySequence(Qt::Key_F2), [this] { editTitle(); });
+    add(QKeySequence(Qt::Key_F2), [this] { action().editTitle(); });
     add(QKeySequence(Qt::Key_F6), [this] { modForms::activateNext(m_program, *this); });
 }
 
@@ -152,8 +163,8 @@ void frmNoteStack::layOut()
     m_overlay->setGeometry(m_page->coverRect());
     m_empty->setGeometry(m_page->coverRect());
     m_grip->setGeometry(m_page->width() - GripSide - 1, m_page->height() - GripSide - 1, GripSide, GripSide);
-    if (StackNote *note = chosen())
-        note->body->setGeometry(m_page->bodyRect());
+    if (LiveNote *note = chosen())
+        note->body.setGeometry(m_page->bodyRect());
     m_grip->raise();
 }
 
@@ -208,20 +219,49 @@ void frmNoteStack::Destroy()
         m_title->giveUp();
     m_closing = true;
     modForms::UnhookWindow(*this);
-    for (const auto &note : m_notes)
-        note->alarm->Destroy();
+    for (const qint32 tag : tags())
+        live(tag)->alarm.Destroy();
 }
 
-bool frmNoteStack::eventFilter(QObject *, QEvent *event)
+void frmNoteStack::contextMenuEvent(QContextMenuEvent *event)
 {
-    const auto *mouse = dynamic_cast<QMouseEvent *>(event);
-    if (mouse == nullptr)
-        return false;
-    if (event->type() == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton)
-        m_drag.press(WindowDrag::HitTest::BottomRight, mouse->globalPosition().toPoint());
-    else if (event->type() == QEvent::MouseMove)
-        m_drag.move(mouse->globalPosition().toPoint());
-    else if (event->type() == QEvent::MouseButtonRelease)
-        m_drag.release();
-    return true;
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        m_menus->openLong();
+}
+
+void frmNoteStack::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    LiveNote *note = chosen();
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        m_menus->openLong();
+    else if (enter && note != nullptr)
+        note->locked ? action().unlock() : action().editText();
+    else if (note == nullptr || !note->body.scrollByKey(*event))
+        QWidget::keyPressEvent(event);
+}
+
+/// A list of all titles for when there are more tabs than fit.
+void frmNoteStack::showTabList()
+{
+    const QPointer<QMenu> menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("mnuTabList"));
+    auto *group = new QActionGroup(menu);
+    for (const qint32 tag : tags()) {
+        const QString line = textShortening::onOneLine(noteTitles::title(*recordOf(tag)));
+        const QString title = textShortening::shortened(line, ListWidth, menu->font());
+        QAction *action = menu->addAction(QString(title).replace(u'&', QLatin1String("&&")));
+        action->setActionGroup(group);
+        action->setCheckable(true);
+        action->setChecked(live(tag) == chosen());
+        action->setData(tag);
+    }
+    const QAction *picked = menu->exec(m_list->mapToGlobal(QPoint(0, m_list->height())));
+    // The window may have gone meanwhile, and the menu with it.
+    if (menu == nullptr)
+        return;
+    const qint32 tag = picked != nullptr ? picked->data().toInt() : 0;
+    menu->deleteLater();
+    if (live(tag) != nullptr)
+        m_tabs->setCurrentIndex(m_notes->indexOf(tag));
 }

@@ -2,27 +2,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "notes/commands/NoteMenu.h"
+#include "forms/Form.h"
+#include "model/windowState.h"
+#include "notes/commands/NoteHost.h"
 #include "notestack/StackToolbar.h"
 #include "platform/WindowDrag.h"
-#include "forms/Form.h"
 
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 
 class LockOverlay;
+class NoteAction;
+class NoteMenus;
 class NoteTabs;
 class NoteTitle;
 class Program;
 class QToolButton;
+class SizeGrip;
 class StackPage;
-struct StackNote;
+class TabbedNotes;
+struct NoteInk;
 
 /// The one window that keeps notes as tabs. A note here is a record with a body of its own, of which only that of the
 /// chosen tab is shown. Notes are found by their tag whenever events may have run; tabs are numbered from 0.
-class frmNoteStack final : public QWidget, public Form
+class frmNoteStack final : public QWidget, public Form, public NoteHost, public StackHolder
 {
     Q_OBJECT
 
@@ -31,8 +35,6 @@ public:
     ~frmNoteStack() override;
 
     void Initialize();
-    /// The record of the new last tab, which is chosen; the result is its index.
-    int AddANote(const clsNoteProps &note) override;
     /// A new tab for a note that was a window; shows the NoteStack.
     void AddFrmNote(const clsNoteProps &note);
     /// Shows either the empty state or the chosen note.
@@ -41,29 +43,42 @@ public:
     /// Takes a note, the chosen one for -1, out of the data file and its tab away.
     void DeleteThisNote(int index);
     void lockform(int index);
+    /// Tabs; 1 while there is no note.
+    int NumOfQuillets() const;
+    int noteCount() const;
+    void SaveThisStackSys();
     /// The window was open when the program last ended.
     static bool wasShown(const Program &program);
     /// After the load: the order of the tabs, and the chosen one, as they were left.
     void restoreOrder();
 
+    // Form
     QWidget *window() override { return this; }
-    int NumOfQuillets() const override;
-    int noteCount() const override;
-    void SaveThisStackSys() override;
-    void SaveThisStack(const std::function<bool(int)> &goOn) override;
+    NoteHolder *holder() override { return this; }
+    void keepPlace() override;
+    void Destroy() override;
+
+    // StackHolder
+    int AddANote(const clsNoteProps &note, Lid lid = Lid::AsRecorded) override;
+    void keepOrder() override;
     void TransferAllToDesktop() override;
     void showStack() override;
-    void TextLostFocus() override;
-    void Destroy() override;
+
+    // NoteHolder
+    std::vector<qint32> tags() const override;
     void ResetAlarms() override;
-    void keepPlace() override;
-    void commitEditing() override;
-    std::vector<qint32> changedTags() const override;
-    void rescue(const std::function<void(const clsNoteProps &)> &write) const override;
-    void markUnsaved(qint32 tag) override;
-    clsNoteProps *recordOf(qint32 tag) override;
-    void lockNote(qint32 tag) override;
     void recordChanged(qint32 tag) override;
+    void moveAway(qint32 tag) override;
+
+    // NoteHost
+    LiveNote *live(qint32 tag) override;
+    LiveNote *chosen() override;
+    QWidget &hostWindow() override { return *this; }
+    NoteTitle &titleEditor() override { return *m_title; }
+    bool isShown(const LiveNote &note) const override;
+    void showTitle(LiveNote &note) override;
+    void showLock(LiveNote &note) override;
+    void letGo(qint32 tag) override;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -72,62 +87,39 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     // frmNoteStack.cpp
-    void ScaleNoteStack();
     void makeParts();
-    void makeShortcuts();
+    void makeTitleBar();
     void connectParts();
+    void makeShortcuts();
+    void ScaleNoteStack();
     void layOut();
     void hideStack();
     void restorePlace();
+    void keep(const WindowState &now);
+    void showTabList();
 
-    // frmNoteStackTabs.cpp
-    bool isEmpty() const { return m_notes.empty(); }
-    std::optional<size_t> indexOf(qint32 tag) const;
-    StackNote *chosen() const;
-    StackNote *noteAt(int index) const;
+    // frmNoteStackCommands.cpp
+    NoteAction action();
+    void run(NoteCommand command);
+    void toolbarCommanded(StackToolbar::Command command);
+    void AlarmCont(qint32 tag);
+
+    // frmNoteStackNotes.cpp
+    void connectNote(LiveNote &note);
     void tabChosen();
     void showChosen();
     void showEmpty();
-    void dressPage(const StackNote &note);
-    void ApplyTabAppearance(StackNote &note);
-    void ApplyTabState(StackNote &note);
-    void ArmTabAlarm(StackNote &note);
-    void showTitle(StackNote &note);
-    void removeTab(size_t index);
-    void renumber(size_t from);
-    void ShowLockLayer(StackNote &note, bool locked);
-    void showTabList();
-    void connectBody(StackNote &note);
+    void dressPage(const NoteInk &ink);
+    void ApplyTabAppearance(LiveNote &note);
+    void ApplyTabState(LiveNote &note);
+    void ArmTabAlarm(LiveNote &note);
 
-    // frmNoteStackCommands.cpp
-    void toolbarCommanded(StackToolbar::Command command);
-    void run(NoteCommand command);
-    void runOn(StackNote &note, NoteCommand command);
-    bool refusesLocked(const StackNote &note);
-    void openDialog(const StackNote &note, NoteCommand command);
-    void addNew();
-    void menuCommanded();
-    void showMenuState(const StackNote &note);
-    void openShortMenu(QPoint globalPosition);
-    NoteMenu *makeMenu(const QString &name, std::span<const MenuEntry> entries);
-    void beginTextEditing(StackNote &note);
-    void editTitle();
-    void titleEdited(const QString &text);
-    void deleteNote(qint32 tag);
-    void print(StackNote &note);
-    void paste(StackNote &note);
-    void unlock();
-    void toDesktop(qint32 tag);
-    void AlarmCont(qint32 tag);
-
-    Program &m_program;
-    std::vector<std::unique_ptr<StackNote>> m_notes;
     WindowDrag m_drag;
-    NoteTabs *m_tabs = nullptr;        // tabNotes
+    NoteTabs *m_tabs = nullptr; // tabNotes
+    std::unique_ptr<TabbedNotes> m_notes;
     QToolButton *m_list = nullptr;     // cmdTabList
     StackPage *m_page = nullptr;       // fraPage
     QWidget *m_titleBar = nullptr;     // fraTitleBar
@@ -137,11 +129,8 @@ private:
     StackToolbar *m_toolbar = nullptr; // fraToolBar
     LockOverlay *m_overlay = nullptr;  // fraPassword
     QWidget *m_empty = nullptr;        // fraEmpty, lblEmpty
-    QLabel *m_grip = nullptr;          // imgResize
-    NoteMenu *m_noteMenu = nullptr;    // mnuPopup2
-    NoteMenu *m_shortMenu = nullptr;   // mnuPopup
-    bool m_menuOpen = false;
-    bool m_pressedWhileOpen = false;
+    SizeGrip *m_grip = nullptr;        // imgResize
+    NoteMenus *m_menus = nullptr;      // mnuPopup, mnuPopup2
     bool m_closing = false;
-    qint32 m_titleTag = 0; ///< Note whose title is being edited.
+    WindowState m_kept; ///< As it was last read or written.
 };

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notestack/NoteTabs.h"
-#include "notestack/StackNote.h"
-#include "notestack/frmNoteStack.h"
 #include "forms/Program.h"
-
-#include <QCryptographicHash>
-#include <QFile>
-#include <QSettings>
+#include "model/logs.h"
+#include "model/windowState.h"
+#include "notes/commands/LiveNote.h"
+#include "notestack/NoteTabs.h"
+#include "notestack/TabbedNotes.h"
+#include "notestack/frmNoteStack.h"
+#include "notestack/stackOrder.h"
 
 // What the NoteStack keeps for itself from start to start: its place, whether it was shown, and the order of its tabs,
 // which the data file does not hold: there the notes stand by the time they were written.
@@ -15,85 +15,73 @@
 namespace
 {
 
-constexpr QLatin1String Geometry("NoteStack/geometry");
-constexpr QLatin1String Shown("NoteStack/shown");
-constexpr QLatin1String Order("NoteStack/order");
-constexpr QLatin1String Chosen("NoteStack/chosen");
-
 QString placeFile(const Program &program)
 {
     return program.paths().DataFolder + QStringLiteral("/window.set");
-}
-
-/// Tells notes apart across starts, where their tags change.
-QString fingerprint(const clsNoteProps &note)
-{
-    QCryptographicHash hash(QCryptographicHash::Md5);
-    for (const QString *text : {&note.DateCreated, &note.TitleBarTitle, &note.Data}) {
-        hash.addData(QByteArrayView(reinterpret_cast<const char *>(text->constData()),
-                                    text->size() * static_cast<qsizetype>(sizeof(QChar))));
-        hash.addData(QByteArrayView("\0", 2));
-    }
-    return QString::fromLatin1(hash.result().toHex());
 }
 
 } // namespace
 
 void frmNoteStack::restorePlace()
 {
-    const QSettings settings(placeFile(m_program), QSettings::IniFormat);
-    restoreGeometry(settings.value(Geometry).toByteArray());
+    m_kept = windowState::read(placeFile(m_program));
+    restoreGeometry(m_kept.geometry);
 }
 
 bool frmNoteStack::wasShown(const Program &program)
 {
-    return QSettings(placeFile(program), QSettings::IniFormat).value(Shown).toBool();
+    return windowState::read(placeFile(program)).isShown;
 }
 
 void frmNoteStack::keepPlace()
 {
-    QSettings settings(placeFile(m_program), QSettings::IniFormat);
-    settings.setValue(Geometry, saveGeometry());
-    settings.setValue(Shown, isVisible());
-    if (!m_program.file.LoadingData) {
-        QStringList order;
-        for (const auto &note : m_notes)
-            order.append(fingerprint(note->record));
-        settings.setValue(Order, order);
-        settings.setValue(Chosen, m_tabs->currentIndex());
-    }
-    settings.sync();
-    QFile::setPermissions(settings.fileName(), QFile::ReadOwner | QFile::WriteOwner);
+    WindowState now = m_kept;
+    now.geometry = saveGeometry();
+    now.isShown = isVisible();
+    keep(now);
+    keepOrder();
 }
 
-/// Notes that were not there before stand behind the others, in the order of the file.
+/// By the records as they are in the data file, so that the next start finds them there.
+void frmNoteStack::keepOrder()
+{
+    if (m_program.file.LoadingData)
+        return;
+    WindowState now = m_kept;
+    now.order.clear();
+    for (const qint32 tag : tags())
+        now.order.append(m_program.file.image.keyOf(tag));
+    now.chosen = m_tabs->currentIndex();
+    keep(now);
+}
+
+/// Nobody is told when it fails: the notes are safe, and lie where new ones would.
+void frmNoteStack::keep(const WindowState &now)
+{
+    if (now == m_kept)
+        return;
+    if (const auto written = windowState::write(placeFile(m_program), now); written)
+        m_kept = now;
+    else
+        qCWarning(logs::windows) << "The place of the NoteStack is not kept:" << written.error();
+}
+
 void frmNoteStack::restoreOrder()
 {
-    const QSettings settings(placeFile(m_program), QSettings::IniFormat);
-    const QStringList order = settings.value(Order).toStringList();
-    const QString chosenBefore = order.value(settings.value(Chosen, -1).toInt());
-    std::vector<std::pair<qsizetype, size_t>> ranks;
-    int chosenNow = m_tabs->currentIndex();
-    for (size_t i = 0; i < m_notes.size(); ++i) {
-        const qsizetype rank = order.indexOf(fingerprint(m_notes[i]->record));
-        ranks.emplace_back(rank < 0 ? order.size() : rank, i);
+    const WindowState before = windowState::read(placeFile(m_program));
+    const QStringList &kept = before.order;
+    const QString chosenBefore = kept.value(before.chosen);
+    std::vector<stackOrder::Note> notes;
+    qint32 chosenNow = m_notes->isEmpty() ? 0 : chosen()->tag();
+    for (const qint32 tag : tags()) {
+        notes.push_back({tag, m_program.file.image.keyOf(tag)});
+        if (!chosenBefore.isEmpty() && notes.back().key == chosenBefore)
+            chosenNow = tag;
     }
-    std::sort(ranks.begin(), ranks.end());
-    std::vector<std::unique_ptr<StackNote>> sorted;
-    for (const auto &[rank, index] : ranks) {
-        if (rank < order.size() && order[rank] == chosenBefore)
-            chosenNow = static_cast<int>(sorted.size());
-        sorted.push_back(std::move(m_notes[index]));
-    }
-    m_notes = std::move(sorted);
-    renumber(0);
-    {
-        const QSignalBlocker quiet(m_tabs);
-        m_tabs->setCurrentIndex(chosenNow);
-    }
-    for (const auto &note : m_notes) {
-        showTitle(*note);
-        m_tabs->setInk(static_cast<int>(*indexOf(note->record.Tag)), note->ink);
+    m_notes->reorder(stackOrder::sorted(notes, kept), chosenNow);
+    for (const qint32 tag : tags()) {
+        showTitle(*live(tag));
+        m_tabs->setInk(m_notes->indexOf(tag), live(tag)->ink);
     }
     SetActivatedForm();
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 class QUrl;
 
 /// Opens a page in the user's browser; a test only notes what was asked for.
@@ -13,12 +15,7 @@ public:
     Browser &operator=(const Browser &) = delete;
     virtual ~Browser() = default;
 
-    /// False when no program was found that opens such pages.
-    virtual bool open(const QUrl &page) = 0;
-};
-
-class DesktopBrowser final : public Browser
-{
-public:
-    bool open(const QUrl &page) override;
+    /// Goes on at once. `notFound` is called, at once or later from the event loop, when no program was found that
+    /// opens such pages.
+    virtual void open(const QUrl &page, const std::function<void()> &notFound) = 0;
 };

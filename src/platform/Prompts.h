@@ -21,11 +21,18 @@ struct Message
         OkCancel
     };
 
+    /// What the Enter key means.
+    enum class Enter
+    {
+        Ok,
+        Cancel ///< For what OK would give up.
+    };
+
     QString text;
     QString caption = QStringLiteral("Quillets");
     Icon icon = Icon::None;
     Buttons buttons = Buttons::Ok;
-    bool isRash = false; ///< OK gives something up: Cancel is what the Enter key means.
+    Enter enter = Enter::Ok;
 
     bool operator==(const Message &) const = default;
 };

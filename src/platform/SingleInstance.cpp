@@ -20,7 +20,9 @@ QString lockPath()
 
 } // namespace
 
-SingleInstance::SingleInstance() : m_lock(lockPath())
+SingleInstance::SingleInstance() : SingleInstance(lockPath()) {}
+
+SingleInstance::SingleInstance(const QString &lockFile) : m_lock(lockFile)
 {
     m_lock.setStaleLockTime(0);
 }
@@ -29,18 +31,32 @@ SingleInstance::SingleInstance() : m_lock(lockPath())
 void SingleInstance::removeNobodysLock()
 {
     constexpr qint64 LongestMaking = 5; // seconds
+    constexpr qint64 LargestLock = 4096;
     qint64 process = 0;
     QString host;
     QString application;
     const QFileInfo file(m_lock.fileName());
-    if (file.isFile() && !m_lock.getLockInfo(&process, &host, &application) &&
-        file.lastModified().secsTo(QDateTime::currentDateTime()) > LongestMaking)
+    const bool isNobodys =
+        file.isFile() && (file.size() > LargestLock || !m_lock.getLockInfo(&process, &host, &application));
+    if (isNobodys && file.lastModified().secsTo(QDateTime::currentDateTime()) > LongestMaking)
         QFile::remove(file.filePath());
+}
+
+/// A folder on a stick or a share may bring along the lock of another computer, of whose processes nothing is known
+/// here. It is removed unless the file system knows that it is still held.
+bool SingleInstance::takeOver()
+{
+    qint64 process = 0;
+    QString host;
+    QString application;
+    const bool isFromElsewhere =
+        m_lock.getLockInfo(&process, &host, &application) && host != QSysInfo::machineHostName();
+    return isFromElsewhere && m_lock.removeStaleLockFile() && m_lock.tryLock();
 }
 
 bool SingleInstance::acquire()
 {
     removeNobodysLock();
     // Where the folder cannot be written to, nobody can hold the lock: the program starts all the same.
-    return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError;
+    return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError || takeOver();
 }

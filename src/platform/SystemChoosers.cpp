@@ -20,7 +20,7 @@ namespace
 /// name theirs otherwise, and takes the first of the list where it finds none, be it italic.
 QFont selectable(const QFont &font)
 {
-    static const QStringList PlainNames{
+    static const QStringList plainNames{
         QStringLiteral("Regular"), QStringLiteral("Book"),        QStringLiteral("Normal"),
         QStringLiteral("Roman"),   QStringLiteral("Bold"),        QStringLiteral("Italic"),
         QStringLiteral("Oblique"), QStringLiteral("Bold Italic"), QStringLiteral("Bold Oblique")};
@@ -33,7 +33,7 @@ QFont selectable(const QFont &font)
         const QFont candidate = QFontDatabase::font(family, style, AnySize);
         if (candidate.bold() != font.bold() || candidate.italic() != font.italic())
             continue;
-        const int rank = (candidate.weight() == font.weight() ? 1 : 0) + (PlainNames.contains(style) ? 2 : 0);
+        const int rank = (candidate.weight() == font.weight() ? 1 : 0) + (plainNames.contains(style) ? 2 : 0);
         if (rank > bestRank)
             result.setStyleName(style);
         bestRank = std::max(rank, bestRank);
@@ -57,7 +57,7 @@ std::optional<Result> resultOf(Dialog *made, const QString &name, Result (*resul
 
 } // namespace
 
-std::optional<QString> DesktopChoosers::openFile(const FileRequest &request, QWidget *owner)
+std::optional<QString> SystemChoosers::openFile(const FileRequest &request, QWidget *owner)
 {
     auto *dialog = new QFileDialog(owner, request.title);
     dialog->setFileMode(QFileDialog::ExistingFile);
@@ -69,13 +69,13 @@ std::optional<QString> DesktopChoosers::openFile(const FileRequest &request, QWi
     return chosen && !chosen->isEmpty() ? std::optional(chosen->constFirst()) : std::nullopt;
 }
 
-std::optional<QColor> DesktopChoosers::colour(const QColor &current, QWidget *owner)
+std::optional<QColor> SystemChoosers::colour(const QColor &current, QWidget *owner)
 {
     return resultOf<QColorDialog, QColor>(new QColorDialog(current, owner), QStringLiteral("ColourChooser"),
                                           [](const QColorDialog &done) { return done.selectedColor(); });
 }
 
-std::optional<QFont> DesktopChoosers::font(const QFont &current, QWidget *owner)
+std::optional<QFont> SystemChoosers::font(const QFont &current, QWidget *owner)
 {
     return resultOf<QFontDialog, QFont>(new QFontDialog(selectable(current), owner), QStringLiteral("FontChooser"),
                                         [](const QFontDialog &done) { return done.selectedFont(); });

@@ -242,7 +242,10 @@ std::unique_ptr<WallAlarm> SystemClock::makeAlarm()
 
 #endif
 
-SystemClock::SystemClock(QObject *parent) : Clock(parent), m_watch(std::make_unique<Watch>(*this)) {}
+SystemClock::SystemClock(const QStringList &zoneFiles) : m_watch(std::make_unique<Watch>(*this)), m_zone(zoneFiles)
+{
+    connect(&m_zone, &TimeZoneFiles::changed, this, &SystemClock::clockSet);
+}
 
 SystemClock::~SystemClock() = default;
 

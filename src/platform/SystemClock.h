@@ -2,52 +2,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDateTime>
-#include <QObject>
+#include "platform/Clock.h"
+#include "platform/TimeZoneFiles.h"
 
-#include <memory>
-
-/// Goes off once, at a moment of the wall clock: neither the sleep of the computer nor a change of its clock puts it
-/// off. It always goes off from the event loop, also for a moment that is past when it is started.
-class WallAlarm : public QObject
-{
-    Q_OBJECT
-
-public:
-    using QObject::QObject;
-
-    /// Starts anew where it is running.
-    virtual void start(const QDateTime &moment) = 0;
-    virtual void stop() = 0;
-    virtual bool isRunning() const = 0;
-
-signals:
-    void due();
-};
-
-/// The time of day as the program sees it; tests set it by hand.
-class Clock : public QObject
-{
-    Q_OBJECT
-
-public:
-    using QObject::QObject;
-
-    virtual QDateTime now() const = 0;
-    virtual std::unique_ptr<WallAlarm> makeAlarm() = 0;
-
-signals:
-    /// The clock was set, forward or back; alarms that run go by its new time already.
-    void clockSet();
-};
-
-/// The clock of the computer. It wakes nobody while no alarm is due and the clock is not set.
+/// The clock of the computer. It wakes nobody while no alarm is due and neither the clock nor the time zone is set.
 class SystemClock final : public Clock
 {
     Q_OBJECT
 
 public:
-    explicit SystemClock(QObject *parent = nullptr);
+    /// The files that hold the time zone; a test has its own.
+    explicit SystemClock(const QStringList &zoneFiles = TimeZoneFiles::ofSystem());
     ~SystemClock() override;
 
     QDateTime now() const override;
@@ -56,4 +21,5 @@ public:
 private:
     class Watch;
     std::unique_ptr<Watch> m_watch;
+    TimeZoneFiles m_zone;
 };

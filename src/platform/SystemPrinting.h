@@ -2,26 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
-#include <functional>
-#include <memory>
-
-class QPagedPaintDevice;
-
-/// Where notes are printed; a test gives paper of its own.
-class Printing
-{
-public:
-    Printing() = default;
-    Printing(const Printing &) = delete;
-    Printing &operator=(const Printing &) = delete;
-    virtual ~Printing() = default;
-
-    /// Paper of the default printer, without a dialog and with the whole sheet to draw on; null when there is no
-    /// printer. `jobName` is what a queue shows.
-    virtual std::unique_ptr<QPagedPaintDevice> paper(const QString &jobName) = 0;
-};
+#include "platform/Printing.h"
 
 /// The default printer of the system. Costs nothing until something is printed.
 class SystemPrinting final : public Printing

@@ -25,7 +25,7 @@ QMessageBox::Icon iconOf(Message::Icon icon)
 
 } // namespace
 
-Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
+Prompts::Answer SystemPrompts::ask(const Message &message, QWidget *owner)
 {
     // The owner may go while the box is open, and takes it along.
     const QPointer<QMessageBox> box = new QMessageBox(owner != nullptr && owner->isVisible() ? owner : nullptr);
@@ -37,7 +37,7 @@ Prompts::Answer MessageBoxes::ask(const Message &message, QWidget *owner)
     const bool cancel = message.buttons == Message::Buttons::OkCancel;
     box->setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel
                                    : QMessageBox::StandardButtons(QMessageBox::Ok));
-    box->setDefaultButton(message.isRash ? QMessageBox::Cancel : QMessageBox::Ok);
+    box->setDefaultButton(message.enter == Message::Enter::Ok ? QMessageBox::Ok : QMessageBox::Cancel);
     windowStacking::keepAboveNotes(*box);
     const QPointer<QWidget> window = owner;
     const bool isOk = box->exec() == QMessageBox::Ok && box != nullptr;

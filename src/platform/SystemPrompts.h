@@ -5,7 +5,7 @@
 #include "platform/Prompts.h"
 
 /// The message boxes of the desktop.
-class MessageBoxes final : public Prompts
+class SystemPrompts final : public Prompts
 {
 public:
     Answer ask(const Message &message, QWidget *owner) override;

@@ -4,7 +4,6 @@
 
 #include "platform/waveFile.h"
 
-#include <QCoreApplication>
 #include <QLibrary>
 #include <QThread>
 
@@ -18,7 +17,6 @@ namespace
 {
 /// Far more than a thread needs that is not stuck.
 constexpr auto EndOfThread = 100ms;
-constexpr auto LibraryName = "quillets_sound";
 constexpr auto FunctionName = "quilletsPlayWave";
 
 #ifdef __GLIBC__
@@ -50,10 +48,10 @@ void skipEarlierExitHandlers()
 } // namespace
 
 /// Lives in the thread of the sounds; disks and sound servers that do not answer stop only that.
-class WaveSoundWorker final : public QObject
+class SoundWorker final : public QObject
 {
 public:
-    explicit WaveSoundWorker(const QString &libraryPath) : m_library(libraryPath) {}
+    explicit SoundWorker(const QString &libraryPath) : m_library(libraryPath) {}
 
     void play(const QString &wavPath)
     {
@@ -69,13 +67,9 @@ private:
     QLibrary m_library;
 };
 
-WaveSound::WaveSound(QString libraryPath) : m_libraryPath(std::move(libraryPath))
-{
-    if (m_libraryPath.isEmpty())
-        m_libraryPath = QCoreApplication::applicationDirPath() + u'/' + QLatin1String(LibraryName);
-}
+SystemSound::SystemSound(QString libraryPath) : m_libraryPath(std::move(libraryPath)) {}
 
-WaveSound::~WaveSound()
+SystemSound::~SystemSound()
 {
     if (m_thread == nullptr)
         return;
@@ -88,7 +82,7 @@ WaveSound::~WaveSound()
         skipEarlierExitHandlers();
 }
 
-void WaveSound::play(const QString &wavPath)
+void SystemSound::play(const QString &wavPath)
 {
     if (m_thread == nullptr)
         startThread();
@@ -96,11 +90,11 @@ void WaveSound::play(const QString &wavPath)
         m_worker, [worker = m_worker, wavPath] { worker->play(wavPath); }, Qt::QueuedConnection);
 }
 
-void WaveSound::startThread()
+void SystemSound::startThread()
 {
     m_thread = new QThread;
-    m_thread->setObjectName(QStringLiteral("WaveSound"));
-    m_worker = new WaveSoundWorker(m_libraryPath);
+    m_thread->setObjectName(QStringLiteral("SystemSound"));
+    m_worker = new SoundWorker(m_libraryPath);
     m_worker->moveToThread(m_thread);
     QObject::connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_thread->start(QThread::LowPriority);

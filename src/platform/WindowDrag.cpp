@@ -64,10 +64,10 @@ Qt::CursorShape WindowDrag::cursorFor(HitTest held)
     return Qt::ArrowCursor;
 }
 
-void WindowDrag::setLimits(QSize smallest, bool heightFixed)
+void WindowDrag::setLimits(QSize smallest, Height height)
 {
     m_smallest = smallest;
-    m_heightFixed = heightFixed;
+    m_height = height;
 }
 
 void WindowDrag::press(HitTest held, QPoint globalPosition)
@@ -134,7 +134,7 @@ QRect WindowDrag::dragged(QPoint by) const
         result.setLeft(qMin(m_start.left() + by.x(), m_start.right() + 1 - m_smallest.width()));
     if (edges & Qt::RightEdge)
         result.setWidth(qMax(m_start.width() + by.x(), m_smallest.width()));
-    if (m_heightFixed)
+    if (m_height == Height::Fixed)
         return result;
     if (edges & Qt::TopEdge)
         result.setTop(qMin(m_start.top() + by.y(), m_start.bottom() + 1 - m_smallest.height()));

@@ -31,10 +31,16 @@ public:
         BottomRight = 17
     };
 
+    enum class Height
+    {
+        Free,
+        Fixed
+    };
+
     explicit WindowDrag(QWidget &window) : m_window(&window) {}
 
     /// Smallest size, in pixels, that a drag gives the window, and whether its height may change.
-    void setLimits(QSize smallest, bool heightFixed);
+    void setLimits(QSize smallest, Height height);
 
     void press(HitTest held, QPoint globalPosition);
     /// True when the window's place or size changed.
@@ -55,7 +61,7 @@ private:
 
     QPointer<QWidget> m_window;
     QSize m_smallest{1, 1};
-    bool m_heightFixed = false;
+    Height m_height = Height::Free;
     bool m_active = false;
     bool m_dragged = false;
     HitTest m_held = HitTest::Caption;

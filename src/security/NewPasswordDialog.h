@@ -10,22 +10,17 @@ class NewPasswordDialog : public PasswordDialog
     Q_OBJECT
 
 public:
-    ~NewPasswordDialog() override;
-
     /// The accepted password; empty when cancelled.
-    QString requestPassword() const { return m_password; }
+    QString requestPassword() const;
 
 protected:
     using PasswordDialog::PasswordDialog;
 
     void addNewPasswordBoxes(const QString &first, const QString &second);
-    /// Whatever else has to be right first; says itself what is not.
-    virtual bool mayChange() { return true; }
-    void accept() override;
-    void reject() override;
+    /// Empties boxes that do not agree.
+    std::optional<Flaw> findFlaw() override;
 
 private:
     QLineEdit *m_first = nullptr;
     QLineEdit *m_second = nullptr;
-    QString m_password;
 };

@@ -2,23 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "security/PasswordDialog.h"
 
-#include "platform/Prompts.h"
+#include "controls/dialogButtons.h"
 #include "security/secrets.h"
-#include "forms/Program.h"
-#include "forms/modForms.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 PasswordDialog::PasswordDialog(Program &program, QStringView name, const QString &caption, QWidget *owner)
-    : QDialog(owner), Form(program.forms, name.toString()), m_program(program), m_rows(new QFormLayout(this))
+    : ModalDialog(program, name, caption, owner), m_rows(new QFormLayout(this))
 {
-    setObjectName(formName());
-    setWindowTitle(caption);
-    setModal(true);
     setMinimumWidth(LeastWidth);
     m_rows->setContentsMargins(Margin, Margin, Margin, Margin);
     m_rows->setVerticalSpacing(Margin / 2);
@@ -30,7 +23,6 @@ PasswordDialog::PasswordDialog(Program &program, QStringView name, const QString
 PasswordDialog::~PasswordDialog()
 {
     wipeBoxes();
-    modForms::ShowNoteWindows(m_program);
 }
 
 QLabel *PasswordDialog::addText(const QString &name, const QString &text)
@@ -58,19 +50,16 @@ QLineEdit *PasswordDialog::addBox(const QString &suffix, const QString &caption)
 
 void PasswordDialog::addButtons()
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &PasswordDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &PasswordDialog::reject);
+    auto *buttons =
+        dialogButtons::make(*this, {{QDialogButtonBox::Ok, "OKButton"}, {QDialogButtonBox::Cancel, "CancelButton"}});
     buttons->setContentsMargins(0, Margin / 2, 0, 0);
     m_rows->addRow(buttons);
 }
 
-void PasswordDialog::tell(const QString &text)
+void PasswordDialog::reject()
 {
-    m_program.prompts().tell({.text = text}, this);
+    wipeBoxes();
+    ModalDialog::reject();
 }
 
 void PasswordDialog::wipeBoxes()

@@ -2,27 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/Form.h"
-
-#include <QDialog>
+#include "controls/ModalDialog.h"
 
 #include <vector>
 
-class Program;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
 
 /// A dialog that asks for passwords: masked boxes one below the other, OK and Cancel. It decides nothing; what was
 /// typed is overwritten when it goes.
-class PasswordDialog : public QDialog, public Form
+class PasswordDialog : public ModalDialog
 {
     Q_OBJECT
 
 public:
     ~PasswordDialog() override;
-
-    QWidget *window() override { return this; }
 
 protected:
     static constexpr int Margin = 18;
@@ -36,11 +31,11 @@ protected:
     QLineEdit *addBox(const QString &suffix, const QString &caption);
     void addButtons();
 
-    void tell(const QString &text);
-    void wipeBoxes();
+    void reject() override;
 
 private:
-    Program &m_program;
+    void wipeBoxes();
+
     QFormLayout *m_rows;
     std::vector<QLineEdit *> m_boxes;
 };

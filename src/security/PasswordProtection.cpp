@@ -3,16 +3,17 @@
 #include "security/PasswordProtection.h"
 
 #include "controls/CheckRow.h"
+#include "forms/Program.h"
 #include "forms/showModally.h"
 #include "platform/Prompts.h"
 #include "security/frmChangePwd.h"
 #include "security/frmNewPwd.h"
 #include "security/noteLocks.h"
 #include "security/secrets.h"
-#include "forms/Program.h"
 
 #include <QCheckBox>
 #include <QFrame>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 

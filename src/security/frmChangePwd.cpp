@@ -24,12 +24,10 @@ void frmChangePwd::Initialize(const QString &storedPassword)
     m_stored = storedPassword;
 }
 
-bool frmChangePwd::mayChange()
+std::optional<Flaw> frmChangePwd::findFlaw()
 {
     if (m_current->text() == m_stored)
-        return true;
-    tell(tr("Sorry.  The current password is not correct.  Please try again."));
+        return NewPasswordDialog::findFlaw();
     secrets::wipe(*m_current);
-    m_current->setFocus();
-    return false;
+    return Flaw{{tr("Sorry.  The current password is not correct.  Please try again.")}, m_current};
 }

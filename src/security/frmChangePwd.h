@@ -16,7 +16,8 @@ public:
     void Initialize(const QString &storedPassword);
 
 protected:
-    bool mayChange() override;
+    /// The present password comes first.
+    std::optional<Flaw> findFlaw() override;
 
 private:
     QLineEdit *m_current;

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "security/frmEnterPwd.h"
 
-#include "security/secrets.h"
-
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,12 +15,6 @@ frmEnterPwd::frmEnterPwd(Program &program, QWidget *owner)
     addButtons();
 }
 
-frmEnterPwd::~frmEnterPwd()
-{
-    wipeBoxes();
-    secrets::wipe(m_typed);
-}
-
 void frmEnterPwd::Initialize(const QString &description)
 {
     m_desc->setText(description);
@@ -30,7 +22,7 @@ void frmEnterPwd::Initialize(const QString &description)
 
 bool frmEnterPwd::passOn(const QString &stored) const
 {
-    return m_accepted && m_typed == stored;
+    return isAccepted() && m_entry->text() == stored;
 }
 
 int frmEnterPwd::descriptionWidth()
@@ -41,19 +33,4 @@ int frmEnterPwd::descriptionWidth()
 QFont frmEnterPwd::descriptionFont()
 {
     return QApplication::font("QLabel");
-}
-
-void frmEnterPwd::accept()
-{
-    m_typed = m_entry->text();
-    m_accepted = true;
-    PasswordDialog::accept();
-}
-
-void frmEnterPwd::reject()
-{
-    wipeBoxes();
-    secrets::wipe(m_typed);
-    m_accepted = false;
-    PasswordDialog::reject();
 }

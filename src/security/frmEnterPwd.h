@@ -13,7 +13,6 @@ public:
     static constexpr QStringView Name = u"frmEnterPwd";
 
     frmEnterPwd(Program &program, QWidget *owner);
-    ~frmEnterPwd() override;
 
     void Initialize(const QString &description);
     /// True when OK was chosen and what was typed is exactly the stored password; Cancel is never a right password.
@@ -22,13 +21,7 @@ public:
     static int descriptionWidth();
     static QFont descriptionFont();
 
-protected:
-    void accept() override;
-    void reject() override;
-
 private:
     QLabel *m_desc;
     QLineEdit *m_entry;
-    QString m_typed;
-    bool m_accepted = false;
 };

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "security/frmPwdSettings.h"
 
+#include "controls/dialogButtons.h"
+#include "controls/recordMerge.h"
 #include "model/modCopyObject.h"
+#include "model/recordFields.h"
 #include "security/PasswordProtection.h"
 #include "security/secrets.h"
-#include "forms/Program.h"
-#include "forms/modForms.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace
@@ -19,47 +18,43 @@ constexpr int LeastWidth = 360;
 } // namespace
 
 frmPwdSettings::frmPwdSettings(Program &program, QWidget *owner)
-    : QDialog(owner), Form(program.forms, QStringLiteral("frmPwdSettings")), m_program(program),
+    : ModalDialog(program, u"frmPwdSettings", tr("Password Settings"), owner),
       m_protection(
           new PasswordProtection(program, PasswordFields::of(m_props), PasswordProtection::WhenOff::Grey, this))
 {
-    setObjectName(formName());
-    setWindowTitle(tr("Password Settings"));
-    setModal(true);
     setMinimumWidth(LeastWidth);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &frmPwdSettings::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &frmPwdSettings::reject);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Margin);
     layout->addWidget(m_protection, 1);
-    layout->addWidget(buttons);
+    layout->addWidget(
+        dialogButtons::make(*this, {{QDialogButtonBox::Ok, "OKButton"}, {QDialogButtonBox::Cancel, "CancelButton"}}));
     m_protection->Initialize();
 }
 
 frmPwdSettings::~frmPwdSettings()
 {
+    secrets::wipe(m_opened.Pwd);
     secrets::wipe(m_props.Pwd);
-    modForms::ShowNoteWindows(m_program);
 }
 
 void frmPwdSettings::Initialize(const clsNoteProps &note)
 {
-    modCopyObject::CopyNoteToPwd(note, m_props);
+    modCopyObject::CopyNoteToPwd(note, m_opened);
+    m_props = m_opened;
     m_protection->Initialize();
 }
 
 bool frmPwdSettings::PwdResult(clsNoteProps &note)
 {
-    if (result() != Accepted)
+    if (!isAccepted())
         return false;
     if (!m_props.PwdOn)
         secrets::wipe(m_props.Pwd);
-    modCopyObject::CopyPwdToNote(m_props, note);
+    clsPwdProps present;
+    modCopyObject::CopyNoteToPwd(note, present);
+    modCopyObject::CopyPwdToNote(
+        recordMerge::merged(m_props, m_opened, present, recordFields::password<clsPwdProps>, std::tuple<>()), note);
     note.SaveTag = 1;
     return true;
 }

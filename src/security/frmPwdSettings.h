@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/ModalDialog.h"
+#include "model/clsNoteProps.h"
 #include "model/clsPwdProps.h"
-#include "forms/Form.h"
-
-#include <QDialog>
 
 class PasswordProtection;
-class Program;
 
 /// A note's password settings. Works on its own record; the note gets them from PwdResult alone.
-class frmPwdSettings final : public QDialog, public Form
+class frmPwdSettings final : public ModalDialog
 {
     Q_OBJECT
 
@@ -20,13 +18,11 @@ public:
     ~frmPwdSettings() override;
 
     void Initialize(const clsNoteProps &note);
-    /// Writes the settings into the note and marks it changed when OK was chosen; tells whether it was.
+    /// Writes what was changed into the note and marks it changed when OK was chosen; tells whether it was.
     bool PwdResult(clsNoteProps &note);
 
-    QWidget *window() override { return this; }
-
 private:
-    Program &m_program;
+    clsPwdProps m_opened; ///< As the note had them.
     clsPwdProps m_props;
     PasswordProtection *m_protection;
 };

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "security/noteLocks.h"
 
+#include "forms/Program.h"
 #include "forms/showModally.h"
 #include "platform/Prompts.h"
 #include "security/frmEnterPwd.h"
-#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -66,7 +66,7 @@ namespace
 
 QString quoted(const QString &title)
 {
-    return u'\'' + title + u'\'';
+    return QStringLiteral("'%1'").arg(title);
 }
 
 Refusal noAccess()

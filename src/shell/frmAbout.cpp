@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/frmAbout.h"
 
-#include "forms/showModally.h"
+#include "controls/dialogButtons.h"
 #include "forms/Program.h"
-#include "forms/modForms.h"
+#include "forms/showModally.h"
+#include "model/version.h"
 #include "shell/frmCredits.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -29,12 +29,8 @@ QLabel *label(const QString &name, const QString &text, QWidget *parent)
 
 } // namespace
 
-frmAbout::frmAbout(Program &program, QWidget *owner)
-    : QDialog(owner), Form(program.forms, QStringLiteral("frmAbout")), m_program(program)
+frmAbout::frmAbout(Program &program, QWidget *owner) : ModalDialog(program, u"frmAbout", tr("About Quillets"), owner)
 {
-    setObjectName(formName());
-    setWindowTitle(tr("About Quillets"));
-    setModal(true);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin * 3 / 4);
     layout->setSpacing(Margin);
@@ -43,16 +39,11 @@ frmAbout::frmAbout(Program &program, QWidget *owner)
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-frmAbout::~frmAbout()
-{
-    modForms::ShowNoteWindows(m_program);
-}
-
 QWidget *frmAbout::makeHead()
 {
     auto *head = new QWidget(this);
     auto *logo = label(QStringLiteral("imgQuilletsLogo"), {}, head);
-    logo->setPixmap(m_program.pictures().programIcon().pixmap(QSize(LogoSide, LogoSide), devicePixelRatioF()));
+    logo->setPixmap(program().pictures().programIcon().pixmap(QSize(LogoSide, LogoSide), devicePixelRatioF()));
     auto *name = label(QStringLiteral("lblName"), QStringLiteral("Quillets"), head);
     QFont serif(QStringLiteral("Times New Roman"), NamePoints, QFont::Bold);
     serif.setStyleHint(QFont::Serif);
@@ -63,7 +54,8 @@ QWidget *frmAbout::makeHead()
     grid->setColumnStretch(1, 1);
     grid->addWidget(logo, 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(name, 0, 1);
-    grid->addWidget(label(QStringLiteral("lblVersion"), tr("Version 1.0.0 (August 2000)"), head), 1, 1);
+    grid->addWidget(label(QStringLiteral("lblVersion"), tr("Version %1 (August 2000)").arg(ProgramVersion), head), 1,
+                    1);
     grid->addWidget(label(QStringLiteral("lblPlatforms"), tr("Platforms: MS Windows 95, 98, NT "), head), 2, 1);
     return head;
 }
@@ -75,21 +67,17 @@ QWidget *frmAbout::makeButtons()
     credits->setObjectName(QStringLiteral("cmdCredits"));
     credits->setAutoDefault(false);
     connect(credits, &QPushButton::clicked, this, &frmAbout::showCredits);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, row);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &frmAbout::accept);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(credits);
     layout->addStretch();
-    layout->addWidget(buttons);
+    layout->addWidget(dialogButtons::make(*this, {{QDialogButtonBox::Ok, "cmdOK"}}));
     return row;
 }
 
 void frmAbout::showCredits()
 {
-    const QPointer<frmCredits> credits = new frmCredits(m_program, this);
+    const QPointer<frmCredits> credits = new frmCredits(program(), this);
     if (showModally(credits))
         credits->unload();
 }

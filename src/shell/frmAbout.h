@@ -2,27 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/Form.h"
-
-#include <QDialog>
-
-class Program;
+#include "controls/ModalDialog.h"
 
 /// Tells what the program is and leads to the credits.
-class frmAbout final : public QDialog, public Form
+class frmAbout final : public ModalDialog
 {
     Q_OBJECT
 
 public:
     frmAbout(Program &program, QWidget *owner);
-    ~frmAbout() override;
-
-    QWidget *window() override { return this; }
 
 private:
     QWidget *makeHead();
     QWidget *makeButtons();
     void showCredits();
-
-    Program &m_program;
 };

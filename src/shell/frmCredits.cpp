@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/frmCredits.h"
 
-#include "forms/Program.h"
-#include "forms/modForms.h"
+#include "controls/dialogButtons.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 
 namespace
 {
@@ -26,11 +23,8 @@ QLabel *label(const QString &text, QWidget *parent)
 } // namespace
 
 frmCredits::frmCredits(Program &program, QWidget *owner)
-    : QDialog(owner), Form(program.forms, QStringLiteral("frmCredits")), m_program(program)
+    : ModalDialog(program, u"frmCredits", tr("Credits - Quillets"), owner)
 {
-    setObjectName(formName());
-    setWindowTitle(tr("Credits - Quillets"));
-    setModal(true);
     auto *rows = new QGridLayout(this);
     rows->setContentsMargins(Margin, Margin, Margin, Margin * 3 / 4);
     rows->setHorizontalSpacing(Margin);
@@ -45,15 +39,8 @@ frmCredits::frmCredits(Program &program, QWidget *owner)
         tr("Qt %1, under the GNU Lesser General\nPublic License, version 3.").arg(QString::fromLatin1(qVersion())));
     add(tr("Pictures:"), tr("Drawn for Quillets, under its licence."));
     add(tr("Fonts:"), tr("Those of your desktop; none come with Quillets."));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &frmCredits::accept);
+    auto *buttons = dialogButtons::make(*this, {{QDialogButtonBox::Ok, "cmdOK"}});
     buttons->setContentsMargins(0, Margin / 2, 0, 0);
     rows->addWidget(buttons, rows->rowCount(), 0, 1, 2);
     rows->setSizeConstraint(QLayout::SetFixedSize);
-}
-
-frmCredits::~frmCredits()
-{
-    modForms::ShowNoteWindows(m_program);
 }

@@ -2,18 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/WindowDrag.h"
 #include "forms/Form.h"
+#include "platform/WindowDrag.h"
+#include "shell/PanelCommand.h"
 
 #include <QWidget>
 
 #include <array>
 
+class PanelLogo;
 class PanelRow;
 class Program;
 class QLabel;
-class QMenu;
-class TrayIcon;
+class SizeGrip;
+class TrayMenu;
 
 /// The main panel: the program's logo and its eight commands, and the same commands in the menu of the tray icon that
 /// takes the panel's place while it is minimised. Closing the panel ends the program.
@@ -33,36 +35,20 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     static constexpr size_t Commands = 8;
-
-    enum class Command
-    {
-        New,
-        NoteStack,
-        AllToNoteStack,
-        AllToDesktop,
-        Save,
-        Options,
-        Help,
-        Exit,
-        About,
-        Show,
-        None
-    };
 
     void makeRows();
     void makeLogo();
     void makeTray();
     void makeGrip();
     void makeShortcuts();
-    bool logoKeyPressed(const QKeyEvent &event);
     void layOutLogo(int width);
-    void run(Command command);
-    void runFromTray(Command command);
-    void perform(Command command);
+    void run(PanelCommand command);
+    void runFromTray(PanelCommand command);
+    void refuse(QWidget &modal);
+    void perform(PanelCommand command);
     void openOptions();
     void openAbout();
     void minimised();
@@ -73,12 +59,12 @@ private:
     Program &m_program;
     WindowDrag m_drag;
     std::array<PanelRow *, Commands> m_rows{};
-    QLabel *m_logo = nullptr;
+    PanelLogo *m_logo = nullptr;
     QLabel *m_name = nullptr;
     QLabel *m_about = nullptr;
-    QLabel *m_grip = nullptr; // imgResize
-    QMenu *m_popup = nullptr; // mnuPopup
-    TrayIcon *m_tray = nullptr;
+    SizeGrip *m_grip = nullptr; // imgResize
+    TrayMenu *m_tray = nullptr;
+    bool m_refusing = false;   ///< The box of a refused command is open.
     bool m_pressGuard = false; ///< A command is under way.
     bool m_inTray = false;     ///< Hidden, with the icon as the way back.
 };

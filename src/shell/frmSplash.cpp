@@ -4,6 +4,7 @@
 
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "model/version.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -53,9 +54,9 @@ frmSplash::frmSplash(Program &program)
     QFont serif(QStringLiteral("Times New Roman"), 24, QFont::Bold);
     serif.setStyleHint(QFont::Serif);
     name->setFont(serif);
-    auto *version = label(this, QStringLiteral("lblVersion"), tr("Version  1.0.0"), 9, FaintInk);
+    auto *version = label(this, QStringLiteral("lblVersion"), tr("Version  %1").arg(ProgramVersion), 9, FaintInk);
     auto *copy = label(this, QStringLiteral("lblCopy"),
-                       tr("Version 1.0.0 (August 2000)\nPlatforms: MS Windows 95, 98, NT "), 9, Ink);
+                       tr("Version %1 (August 2000)\nPlatforms: MS Windows 95, 98, NT ").arg(ProgramVersion), 9, Ink);
     auto *status = label(this, QStringLiteral("lblTxtStatus"), tr("Status:"), 8.5, FaintInk);
     m_info = label(this, QStringLiteral("lblInfo"), {}, 8.5, Ink);
 

@@ -2,32 +2,34 @@
 // SPDX-License-Identifier: MIT
 #include "shell/modInit.h"
 
+#include "drawing/colours.h"
+#include "forms/NoteHolder.h"
+#include "forms/modForms.h"
+#include "forms/modFormsSaving.h"
+#include "forms/modTimers.h"
+#include "model/modFileIOFolder.h"
+#include "model/version.h"
 #include "notes/modCreateNote.h"
 #include "notestack/frmNoteStack.h"
-#include "platform/Browser.h"
-#include "platform/SystemChoosers.h"
-#include "drawing/colours.h"
-#include "platform/SystemClock.h"
-#include "platform/displayPlatform.h"
 #include "platform/EndSignals.h"
 #include "platform/ExitRescue.h"
 #include "platform/HeldKeys.h"
-#include "platform/SystemPrompts.h"
-#include "platform/SystemPrinting.h"
 #include "platform/SingleInstance.h"
+#include "platform/SystemBrowser.h"
+#include "platform/SystemChoosers.h"
+#include "platform/SystemClock.h"
+#include "platform/SystemPrinting.h"
+#include "platform/SystemPrompts.h"
 #include "platform/SystemSound.h"
+#include "platform/displayPlatform.h"
 #include "platform/windowStacking.h"
-#include "forms/modForms.h"
-#include "forms/modTimers.h"
 #include "shell/frmMenu.h"
 #include "shell/frmSplash.h"
+#include "shell/modInitEnd.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
-#include <QScopedValueRollback>
 #include <QScreen>
-#include <QSessionManager>
 
 using namespace std::chrono_literals;
 
@@ -66,43 +68,9 @@ void nameApplication()
 {
     QApplication::setApplicationName(QStringLiteral("quillets"));
     // No display name: window systems would write it behind every caption.
-    QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QApplication::setApplicationVersion(ProgramVersion.toString());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.quillets.Quillets"));
     QApplication::setQuitOnLastWindowClosed(false);
-}
-
-/// Answers what is open with Cancel, the innermost first.
-void closeModalWindows()
-{
-    constexpr int Deepest = 16;
-    for (int i = 0; i < Deepest; ++i) {
-        QWidget *modal = QApplication::activeModalWidget();
-        if (modal == nullptr)
-            return;
-        if (auto *dialog = qobject_cast<QDialog *>(modal))
-            dialog->reject();
-        else
-            modal->close();
-    }
-}
-
-/// What ends the program from outside saves the notes first. Nobody may be there to answer a box.
-void saveWhenEnded(Program &program, EndSignals &signals_)
-{
-    QObject::connect(&signals_, &EndSignals::endRequested, qApp, [&program] {
-        program.Exiting = true;
-        modForms::SaveAllNotes(program);
-        modForms::CloseAllWindows(program);
-        closeModalWindows();
-        QCoreApplication::exit();
-    });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [&program](QSessionManager &manager) {
-        const bool mayAsk = manager.allowsInteraction();
-        const QScopedValueRollback told(program.saveFailureTold, program.saveFailureTold || !mayAsk);
-        modForms::SaveAllNotes(program);
-        if (mayAsk)
-            manager.release();
-    });
 }
 
 /// One box for all; a failed save that follows has the same reason.
@@ -179,13 +147,9 @@ bool checkComponents(Program &program)
 
 void prepareDataFolder(Program &program)
 {
-    const QString folder = program.paths().DataFolder;
-    constexpr auto OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    const bool there = QFileInfo(folder).isDir() || QDir().mkdir(folder);
-    if (there) {
-        QFile::setPermissions(folder, OwnerOnly);
+    if (modFileIO::prepareDataFolder(program.paths()))
         return;
-    }
+    const QString folder = program.paths().DataFolder;
     const QString text = QCoreApplication::translate(
         "modInit", "The folder %1 could not be created.\nNotes cannot be saved until it can be.");
     program.prompts().tell({text.arg(folder), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
@@ -210,8 +174,8 @@ void restoreNotes(Program &program, frmSplash *splash)
         // The program was told to end meanwhile; what is not restored stays in the file as it is.
         if (program.Exiting)
             return qint32(0);
-        const bool toNoteStack = note.NoteStackOn;
-        return modCreateNote::CreateNote(program, std::move(note), toNoteStack, NoteCreateMode::Load);
+        const Home home = note.NoteStackOn ? Home::NoteStack : Home::Desktop;
+        return modCreateNote::CreateNote(program, std::move(note), home, NoteCreateMode::Load);
     };
     const auto tell = [shown = QPointer<frmSplash>(splash)](int k, int n) {
         if (shown != nullptr && !shown->isUnloaded())
@@ -221,34 +185,11 @@ void restoreNotes(Program &program, frmSplash *splash)
         program.file, program.NoteTemplate, modCreateNote::MostNotes - program.NoteCounter, create, tell,
         [] { modTimers::Wait(BeforeRestore); }, program.clock().now());
     // Alarms that came due meanwhile have waited for the end of the load.
-    for (Form *form : program.forms.loaded())
-        form->ResetAlarms();
+    for (NoteHolder *holder : program.forms.holders())
+        holder->ResetAlarms();
     if (report.overLimit > 0)
         modCreateNote::tellLimit(program);
     tellOfLoad(program, report);
-}
-
-void ExitProgram(Program &program)
-{
-    Form *panel = program.forms.find(formNames::Menu);
-    if (program.Exiting || program.file.LoadingData)
-        return;
-    if (panel != nullptr)
-        windowStacking::SetForegroundWindow(*panel->window());
-    modForms::SaveAllNotes(program);
-    if (modForms::hasUnsavedNotes(program)) {
-        const QString text = QCoreApplication::translate(
-            "modInit", "Some changes could not be saved and will be lost.\nEnd the program all the same?");
-        if (program.prompts().ask(
-                {text, QStringLiteral("Quillets"), Message::Icon::Exclamation, Message::Buttons::OkCancel, true},
-                panel != nullptr ? panel->window() : nullptr) != Prompts::Answer::Ok)
-            return;
-    }
-    program.Exiting = true;
-    modForms::CloseAllWindows(program);
-    if (panel != nullptr)
-        panel->unload();
-    QCoreApplication::exit();
 }
 
 int Main(int argc, char *argv[])
@@ -259,16 +200,16 @@ int Main(int argc, char *argv[])
     nameApplication();
     HeldKeys heldKeys;
     app.installEventFilter(&heldKeys);
-    MessageBoxes early;
+    SystemPrompts early;
     SingleInstance instance;
     if (!instance.acquire()) {
         tellFatal(early, QStringLiteral("You cannot have more than one instance of Quillets running."));
         return 1;
     }
-    const ProgramPaths paths = ProgramPaths::under(QCoreApplication::applicationDirPath(), QDir::currentPath());
-    Services services{std::make_unique<SystemClock>(),     std::make_unique<MessageBoxes>(),
-                      std::make_unique<DesktopChoosers>(), std::make_unique<SystemPrinting>(),
-                      std::make_unique<DesktopBrowser>(),  std::make_unique<WaveSound>(),
+    const ProgramPaths paths = ProgramPaths::of(QCoreApplication::applicationDirPath(), QDir::currentPath());
+    Services services{std::make_unique<SystemClock>(),    std::make_unique<SystemPrompts>(),
+                      std::make_unique<SystemChoosers>(), std::make_unique<SystemPrinting>(),
+                      std::make_unique<SystemBrowser>(),  std::make_unique<SystemSound>(paths.SoundModule),
                       Pictures(paths.ImagesFolder)};
     Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
     if (!checkComponents(program))

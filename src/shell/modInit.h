@@ -13,9 +13,6 @@ namespace modInit
 /// The process from its entry to its end; the result is the exit code.
 int Main(int argc, char *argv[]);
 
-/// Saves all notes, closes every window and ends the program. Asks first when notes could not be saved.
-void ExitProgram(Program &program);
-
 // The steps of start-up that work on the program's state.
 
 /// False, after a box, when the pictures are not beside the program.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "alarms/frmAlarmSettings.h"
 #include "support/TestProgram.h"
+#include "support/answerDialog.h"
 #include "support/failOnWarnings.h"
 
 #include <QCheckBox>
@@ -36,28 +37,19 @@ struct Opened
         dialog.show();
     }
 
-    template <class Control> Control *find(const char *name)
-    {
-        auto *control = dialog.findChild<Control *>(QLatin1String(name));
-        if (control == nullptr)
-            qFatal("No control %s", name);
-        return control;
-    }
-    QCheckBox *box(const char *name) { return find<QCheckBox>(name); }
-    QDateEdit *date() { return find<QDateEdit>("dtpAlarmDate"); }
-    QTimeEdit *time() { return find<QTimeEdit>("dtpAlarmTime"); }
-    QPushButton *button(const char *name) { return find<QPushButton>(name); }
+    QDateEdit &date() { return control<QDateEdit>(dialog, "dtpAlarmDate"); }
+    QTimeEdit &time() { return control<QTimeEdit>(dialog, "dtpAlarmTime"); }
+    void click(const char *button) { control<QAbstractButton>(dialog, button).click(); }
     /// The record as the note has it once the dialog is gone.
     clsNoteProps result() const
     {
         clsNoteProps taken = record;
-        dialog.AlarmResult(taken);
-        return taken;
+        return dialog.AlarmResult(taken) ? taken : record;
     }
     bool refuses(const QString &text, const QString &caption)
     {
         test.prompts.expect(Prompts::Answer::Ok);
-        button("OKButton")->click();
+        click("OKButton");
         return dialog.isVisible() && test.prompts.isDone() && result() == record &&
                test.prompts.last == Message{text, caption, Message::Icon::Critical};
     }
@@ -78,6 +70,7 @@ private slots:
     void newAlarmNeedsTheFuture();
     void soundNeedsAFile();
     void okGivesTheAlarmBack();
+    void onlyWhatWasChangedIsWritten();
     void typedAsWritten_data();
     void typedAsWritten();
     void oldAlarmMayBeSwitchedOff();
@@ -90,10 +83,10 @@ private slots:
 void testAlarmDialog::newAlarmNeedsTheFuture()
 {
     Opened opened(clsNoteProps{});
-    opened.box("chkAlarm")->click();
+    opened.click("chkAlarm");
     QVERIFY(opened.refuses(u"You need to choose an alarm time in the future"_s, u"Alarm set failure"_s));
-    opened.time()->setTime(QTime(12, 0, 1));
-    opened.button("OKButton")->click();
+    opened.time().setTime(QTime(12, 0, 1));
+    opened.click("OKButton");
     QVERIFY(!opened.dialog.isVisible());
     QVERIFY(opened.result().AlarmOn);
     QCOMPARE(opened.result().AlarmTimeSecond, 1);
@@ -102,24 +95,22 @@ void testAlarmDialog::newAlarmNeedsTheFuture()
 void testAlarmDialog::soundNeedsAFile()
 {
     Opened opened(alarmOfTomorrow());
-    opened.box("chkSoundFile")->click();
+    opened.click("chkSoundFile");
     QVERIFY(opened.refuses(u"You have selected to play a sound for the alarm.\nPlease enter a valid sound file."_s,
                            u"Alarm Sound Error"_s));
-    QCOMPARE(opened.dialog.focusWidget(), opened.button("cmdSoundFile"));
+    QCOMPARE(opened.dialog.focusWidget()->objectName(), u"cmdSoundFile"_s);
 }
 
 void testAlarmDialog::okGivesTheAlarmBack()
 {
     Opened opened(alarmOfTomorrow());
-    opened.date()->setDate(QDate(2027, 12, 31));
-    opened.time()->setTime(QTime(23, 58, 59));
-    opened.box("chkFlash")->click();
-    opened.box("chkSoundFile")->click();
+    opened.date().setDate(QDate(2027, 12, 31));
+    opened.time().setTime(QTime(23, 58, 59));
     opened.test.choosers.files = {u"/sounds/ring.wav"_s};
-    opened.button("cmdSoundFile")->click();
+    for (const char *button : {"chkFlash", "chkSoundFile", "cmdSoundFile", "OKButton"})
+        opened.click(button);
     const FileRequest wanted{u"Open sound file"_s, {u"WAV Files (*.wav)"_s, u"All Files (*.*)"_s}, {}};
     QVERIFY(opened.test.choosers.lastRequest == wanted);
-    opened.button("OKButton")->click();
 
     clsNoteProps expected = alarmOfTomorrow();
     expected.AlarmDateYear = 2027;
@@ -134,29 +125,37 @@ void testAlarmDialog::okGivesTheAlarmBack()
     QVERIFY(opened.result() == expected);
 }
 
+void testAlarmDialog::onlyWhatWasChangedIsWritten()
+{
+    Opened opened(alarmOfTomorrow());
+    opened.record.SoundFileOn = true; // by a move meanwhile
+    opened.record.FlashOn = false;
+    opened.record.AlarmOn = false;
+    opened.date().setDate(QDate(2027, 3, 2));
+    opened.click("OKButton");
+    const clsNoteProps result = opened.result();
+    QVERIFY(result.SoundFileOn && !result.FlashOn);
+    QVERIFY(result.AlarmOn && result.AlarmDateYear == 2027 && result.AlarmTimeHour == 8);
+}
+
 void testAlarmDialog::oldAlarmMayBeSwitchedOff()
 {
     clsNoteProps record = alarmOfTomorrow();
     record.AlarmDateYear = 2020;
-    record.AlarmDateMonth = 14;
-    record.AlarmDateDay = 31;
-    record.AlarmTimeHour = -3;
     record.SoundFileOn = true;
     Opened opened(record);
-    QCOMPARE(opened.date()->date(), QDate(2020, 12, 31));
-    QCOMPARE(opened.time()->time(), QTime(0, 0));
-    opened.box("chkAlarm")->click();
-    opened.button("OKButton")->click();
+    opened.click("chkAlarm");
+    opened.click("OKButton");
     QVERIFY(!opened.dialog.isVisible() && !opened.result().AlarmOn);
 }
 
 void testAlarmDialog::cancelChangesNothing()
 {
     Opened opened(alarmOfTomorrow());
-    opened.date()->setDate(QDate(2028, 1, 1));
-    opened.box("chkAlarm")->click();
-    opened.button("CancelButton")->click();
-    QVERIFY(!opened.dialog.isVisible());
+    opened.date().setDate(QDate(2028, 1, 1));
+    opened.click("chkAlarm");
+    opened.click("CancelButton");
+    QVERIFY(!opened.dialog.isVisible() && !opened.dialog.isAccepted());
     QVERIFY(opened.result() == opened.record);
 }
 
@@ -167,8 +166,8 @@ void testAlarmDialog::impossibleDateIsShownAsNearest()
     record.AlarmDateMonth = 14;
     record.AlarmTimeHour = -3;
     Opened opened(record);
-    QCOMPARE(opened.date()->date(), QDate(2026, 12, 31));
-    opened.button("OKButton")->click();
+    QCOMPARE(opened.date().date(), QDate(2026, 12, 31));
+    opened.click("OKButton");
     QCOMPARE(opened.result().AlarmDateMonth, 12);
     QCOMPARE(opened.result().AlarmTimeHour, 0);
 }
@@ -199,13 +198,13 @@ void testAlarmDialog::soundFiles()
     opened.test.choosers.files = {chosen};
     if (!accepted)
         opened.test.prompts.expect(Prompts::Answer::Ok);
-    opened.button("cmdSoundFile")->click();
+    opened.click("cmdSoundFile");
     QVERIFY(opened.test.prompts.isDone());
     if (!accepted)
         QVERIFY((opened.test.prompts.last == Message{u"Invalid sound file."_s, u"Error"_s, Message::Icon::Critical}));
-    opened.button("OKButton")->click();
+    opened.click("OKButton");
     QTEST(opened.result().SoundFile, "after");
-    const QString caption = opened.button("cmdSoundFile")->text().replace(u"&&"_s, u"&"_s);
+    const QString caption = control<QPushButton>(opened.dialog, "cmdSoundFile").text().replace(u"&&"_s, u"&"_s);
     QCOMPARE(caption, opened.result().SoundFile.isEmpty() ? u"Choose file"_s : opened.result().SoundFile);
 }
 
@@ -222,18 +221,18 @@ void testAlarmDialog::typedAsWritten()
 {
     QFETCH(QString, date);
     QFETCH(QString, time);
-    Opened dialog(alarmOfTomorrow());
-    QVERIFY(QTest::qWaitForWindowActive(&dialog.dialog));
-    dialog.date()->setFocus(Qt::TabFocusReason);
-    QTest::keyClicks(dialog.date(), date);
-    QCOMPARE(dialog.date()->date(), QDate(2032, 6, date.startsWith(u"06") ? 20 : 2));
-    dialog.time()->setFocus(Qt::TabFocusReason);
-    QTest::keyClicks(dialog.time(), time);
-    QCOMPARE(dialog.time()->time(), time.startsWith(u'9') ? QTime(9, 5) : QTime(14, 45, 9));
+    Opened opened(alarmOfTomorrow());
+    QVERIFY(QTest::qWaitForWindowActive(&opened.dialog));
+    opened.date().setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&opened.date(), date);
+    QCOMPARE(opened.date().date(), QDate(2032, 6, date.startsWith(u"06") ? 20 : 2));
+    opened.time().setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&opened.time(), time);
+    QCOMPARE(opened.time().time(), time.startsWith(u'9') ? QTime(9, 5) : QTime(14, 45, 9));
     // Wherever the caret is, digits overwrite.
-    QTest::keyClick(dialog.time(), Qt::Key_Home);
-    QTest::keyClicks(dialog.time(), u"07"_s);
-    QCOMPARE(dialog.time()->time().hour(), 7);
+    QTest::keyClick(&opened.time(), Qt::Key_Home);
+    QTest::keyClicks(&opened.time(), u"07"_s);
+    QCOMPARE(opened.time().time().hour(), 7);
 }
 
 QTEST_MAIN(testAlarmDialog)

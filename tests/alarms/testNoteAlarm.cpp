@@ -3,10 +3,13 @@
 #include "alarms/NoteAlarm.h"
 #include "alarms/NoteFlash.h"
 #include "alarms/modAlarm.h"
+#include "platform/SystemClock.h"
+#include "support/TestHome.h"
 #include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 namespace
 {
@@ -35,6 +38,8 @@ struct Note
 
 } // namespace
 
+using namespace Qt::StringLiterals;
+
 class testNoteAlarm final : public QObject
 {
     Q_OBJECT
@@ -47,6 +52,7 @@ private slots:
     void clockSet();
     void noteMayGo();
     void systemClockIsOnTime();
+    void zoneIsNoticed();
     void flashes();
 };
 
@@ -143,6 +149,39 @@ void testNoteAlarm::systemClockIsOnTime()
     alarm->start(QDateTime(QDate(1, 1, 1), QTime(0, 0)));
     QCOMPARE(due.count(), 1);
     QVERIFY(due.wait(1000));
+}
+
+void testNoteAlarm::zoneIsNoticed()
+{
+    const QTemporaryDir folder;
+    const auto put = [&folder](const QString &name, const QByteArray &contents) {
+        TestHome::setContents(folder.filePath(name), contents);
+    };
+    const auto link = [&folder](const QString &target) {
+        const QByteArray next = QFile::encodeName(folder.filePath(u"next"_s));
+        QVERIFY(QFile::link(folder.filePath(target), folder.filePath(u"next"_s)));
+        QCOMPARE(std::rename(next.constData(), QFile::encodeName(folder.filePath(u"localtime"_s)).constData()), 0);
+    };
+    put(u"London"_s, "GMT");
+    put(u"Berlin"_s, "CET");
+    link(u"London"_s);
+    SystemClock clock({folder.filePath(u"localtime"_s), folder.filePath(u"timezone"_s)});
+    QSignalSpy told(&clock, &Clock::clockSet);
+    for (const QString &city : {u"Berlin"_s, u"London"_s, u"Berlin"_s}) {
+        told.clear();
+        link(city);
+        QTRY_COMPARE(told.count(), 1);
+    }
+    for (const char *zone : {"a", "b", "c"}) {
+        told.clear();
+        put(u"timezone"_s, zone);
+        QTRY_VERIFY(told.count() > 0);
+        QTest::qWait(50);
+    }
+    told.clear();
+    put(u"another"_s, "x");
+    link(u"Berlin"_s);
+    QVERIFY(!told.wait(100));
 }
 
 void testNoteAlarm::flashes()

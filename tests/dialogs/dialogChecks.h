@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/TestProgram.h"
+#include "support/answerDialog.h"
+
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QDialog>
@@ -40,4 +43,19 @@ inline void checkPages(const QDialog &dialog)
         }
     }
     tabs->setCurrentIndex(0);
+}
+
+/// Presses OK: without a caption the dialog closes; with one it stays, after a box, at the field named.
+inline void checkOk(TestProgram &test, const QDialog &dialog, const QString &caption, const QByteArray &field)
+{
+    if (!caption.isEmpty())
+        test.prompts.expect(Prompts::Answer::Ok);
+    press(dialog, "cmdOK");
+    QCOMPARE(dialog.isVisible(), !caption.isEmpty());
+    if (caption.isEmpty())
+        return;
+    QCOMPARE(test.prompts.last.caption, caption);
+    QCOMPARE(test.prompts.last.icon, Message::Icon::Critical);
+    QVERIFY(control<QWidget>(dialog, field.constData()).isVisible());
+    QVERIFY(control<QWidget>(dialog, field.constData()).hasFocus());
 }

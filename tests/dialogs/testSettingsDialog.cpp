@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialogChecks.h"
 #include "dialogs/frmSettings.h"
-#include "support/TestProgram.h"
-#include "support/answerDialog.h"
 #include "support/failOnWarnings.h"
 
 #include <QCheckBox>
@@ -32,6 +30,7 @@ clsNoteProps noteWithAll()
     note.AlarmDateMonth = 3;
     note.AlarmDateDay = 2;
     note.SoundFile = u"/a.wav"_s;
+    note.SoundFileOn = true;
     return note;
 }
 
@@ -50,6 +49,8 @@ private slots:
     void checks_data();
     void checks();
     void alarmWithoutADate();
+    void alarmGoesOffMeanwhile_data();
+    void alarmGoesOffMeanwhile();
     void passwordStaysWhenPromptIsCancelled();
     void hostileRecords_data();
     void hostileRecords();
@@ -124,14 +125,7 @@ void testSettingsDialog::checks()
     QFETCH(QString, caption);
     QFETCH(QByteArray, focus);
     open(note);
-    if (!caption.isEmpty())
-        m_test->prompts.expect(Prompts::Answer::Ok);
-    press(*m_dialog, "cmdOK");
-    QCOMPARE(m_dialog->isVisible(), !caption.isEmpty());
-    if (caption.isEmpty())
-        return;
-    QCOMPARE(m_test->prompts.last.caption, caption);
-    QVERIFY(control<QWidget>(*m_dialog, focus.constData()).hasFocus());
+    checkOk(*m_test, *m_dialog, caption, focus);
 }
 
 void testSettingsDialog::alarmWithoutADate()
@@ -145,6 +139,44 @@ void testSettingsDialog::alarmWithoutADate()
     QVERIFY(m_dialog->SettingsResult(note));
     QVERIFY(note.AlarmOn && note.AlarmDateYear == 2026 && note.AlarmDateMonth == 3 && note.AlarmDateDay == 1);
     QVERIFY(note.AlarmTimeHour == 12 && note.AlarmTimeSecond == 1);
+}
+
+void testSettingsDialog::alarmGoesOffMeanwhile_data()
+{
+    QTest::addColumn<QByteArray>("switched");
+    QTest::addColumn<int>("year"); // set in the dialog, none where 0
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<bool>("onAgain");
+    QTest::newRow("untouched") << QByteArray() << 0 << QString() << false;
+    QTest::newRow("switched off") << QByteArray("chkAlarm") << 0 << QString() << false;
+    QTest::newRow("set anew") << QByteArray() << 2027 << QString() << true;
+    QTest::newRow("set to the past") << QByteArray() << 2025 << u"Alarm set failure"_s << false;
+}
+
+void testSettingsDialog::alarmGoesOffMeanwhile()
+{
+    QFETCH(QByteArray, switched);
+    QFETCH(int, year);
+    QFETCH(QString, caption);
+    clsNoteProps note = noteWithAll();
+    open(note);
+    m_test->clock.advance(3 * 86400);
+    // It moves to the desktop, where its sound file is missed.
+    note.AlarmOn = note.SoundFileOn = false;
+    note.FlashOn = true;
+    m_test->choosers.colours = {QColor(Qt::red)};
+    press(*m_dialog, "cmdForeColor");
+    if (!switched.isEmpty())
+        control<QCheckBox>(*m_dialog, switched.constData()).click();
+    if (year != 0)
+        control<QDateEdit>(*m_dialog, "dtpAlarmDate").setDate(QDate(year, 1, 31));
+    checkOk(*m_test, *m_dialog, caption, "dtpAlarmDate");
+    if (!caption.isEmpty())
+        return;
+    QVERIFY(m_dialog->SettingsResult(note));
+    QTEST(note.AlarmOn, "onAgain");
+    QCOMPARE(note.AlarmDateDay, year != 0 ? 31 : 2);
+    QVERIFY(note.ForeColor == 0xFF && note.FlashOn && !note.SoundFileOn);
 }
 
 void testSettingsDialog::passwordStaysWhenPromptIsCancelled()

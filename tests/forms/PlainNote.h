@@ -3,16 +3,18 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsSaving.h"
 
 #include <QWidget>
 
 /// The least that the rest of the program takes for a note on the desktop.
-class PlainNote final : public QWidget, public Form
+class PlainNote final : public QWidget, public Form, public NoteHolder
 {
 public:
-    PlainNote(Program &program, qint32 tag) : Form(program.forms, formNames::Note.toString()), m_program(program)
+    PlainNote(Program &program, qint32 tag) : Form(program.forms, formNames::Note.toString())
     {
         record.Tag = tag;
         record.SaveTag = 1;
@@ -20,40 +22,31 @@ public:
     }
 
     QWidget *window() override { return this; }
-    qint32 Tag() const override { return record.Tag; }
-    clsNoteProps *GetThisNoteProps() override { return &record; }
-    clsNoteProps *recordOf(qint32 tag) override { return tag == record.Tag ? &record : nullptr; }
-    void SaveThisNote() override
-    {
-        modForms::saveNote(m_program, record);
-        if (saved)
-            saved();
-    }
+    NoteHolder *holder() override { return this; }
     void Destroy() override
     {
         if (destroyed)
             destroyed();
     }
-    void commitEditing() override
+    std::vector<qint32> tags() const override { return {record.Tag}; }
+    clsNoteProps *recordOf(qint32 tag) override { return tag == record.Tag ? &record : nullptr; }
+    void updateRecords() override
     {
-        if (committing)
-            committing();
+        if (!typed.isEmpty() && record.Data != typed) {
+            record.Data = typed;
+            record.SaveTag = 1;
+        }
     }
-    void ThisFormLostFocus() override { ++timesLeft; }
-    std::vector<qint32> changedTags() const override
-    {
-        return record.SaveTag == 1 ? std::vector{record.Tag} : std::vector<qint32>();
-    }
-    void markUnsaved(qint32 tag) override { record.SaveTag = tag == record.Tag ? 1 : record.SaveTag; }
+    void commitEditing() override { ++timesLeft; }
+    void TextLostFocus() override { ++timesLeft; }
+    void ResetAlarms() override {}
+    void recordChanged(qint32) override {}
+    void moveAway(qint32) override {}
 
     clsNoteProps record;
-    std::function<void()> committing;
-    std::function<void()> saved;
+    QString typed; ///< What is being typed into it.
     std::function<void()> destroyed;
     int timesLeft = 0;
-
-private:
-    Program &m_program;
 };
 
 /// A window of another kind.

@@ -1,16 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "platform/SystemChoosers.h"
-#include "platform/HeldKeys.h"
-#include "platform/SystemPrompts.h"
 #include "forms/PlainNote.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"
 
 #include <QPointer>
-
-#include <QPlainTextEdit>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -21,8 +15,6 @@ class testForms final : public QObject
 private slots:
     void init();
     void closesEveryWindow();
-    void boxesGoWithTheirOwners();
-    void heldKeysDoOneThing();
     void dialogsHideNotes();
 
 private:
@@ -62,50 +54,6 @@ void testForms::closesEveryWindow()
         QVERIFY(window == nullptr);
 }
 
-/// Whoever goes while a box or a chooser of its own is open takes it along; nothing was answered then.
-void testForms::boxesGoWithTheirOwners()
-{
-    const auto whileOneIsOpen = [](auto ask) {
-        auto *owner = new QWidget;
-        owner->show();
-        QTimer::singleShot(0, owner, [owner] { delete owner; });
-        return ask(owner);
-    };
-    MessageBoxes boxes;
-    DesktopChoosers choosers;
-    QVERIFY(whileOneIsOpen([&](QWidget *owner) { return boxes.ask({u"text"_s}, owner); }) == Prompts::Answer::Cancel);
-    QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.colour(Qt::red, owner); }));
-    QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.font(QFont(), owner); }));
-    QVERIFY(!whileOneIsOpen([&](QWidget *owner) { return choosers.openFile({u"title"_s, {}, {}}, owner); }));
-}
-
-void testForms::heldKeysDoOneThing()
-{
-    HeldKeys heldKeys;
-    qApp->installEventFilter(&heldKeys);
-    QWidget window;
-    QPushButton button(&window);
-    QPlainTextEdit text(&window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    int pressed = 0;
-    connect(&button, &QPushButton::clicked, &window, [&] {
-        ++pressed;
-        text.setFocus();
-    });
-    const auto press = [&window] { QTest::keyPress(window.windowHandle(), Qt::Key_Space); };
-    button.setFocus();
-    press();
-    QTest::keyRelease(window.windowHandle(), Qt::Key_Space);
-    for (int repeat = 0; repeat < 3; ++repeat)
-        press();
-    QVERIFY(pressed == 1 && text.toPlainText().isEmpty());
-    QTest::qWait(150); // A person presses again.
-    for (int repeat = 0; repeat < 3; ++repeat)
-        press();
-    QCOMPARE(text.toPlainText(), u"   "_s);
-}
-
 void testForms::dialogsHideNotes()
 {
     Program &program = m_test->program;
@@ -120,6 +68,10 @@ void testForms::dialogsHideNotes()
     dialog.show();
     QVERIFY(modForms::IsDialogShowing(program));
     QVERIFY(!note.isVisible());
+    // What a dialog within a dialog says when it goes; the notes wait for the outer one.
+    modForms::ShowNoteWindows(program);
+    QVERIFY(!note.isVisible());
+    dialog.hide();
     modForms::ShowNoteWindows(program);
     QVERIFY(note.isVisible());
 }

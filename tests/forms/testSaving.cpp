@@ -26,8 +26,10 @@ private slots:
     void failureIsToldOnceAndLosesNothing();
     void cancelled_data();
     void cancelled();
-    void noteThatGoesMeanwhile_data() { bothWays(); }
     void noteThatGoesMeanwhile();
+    void endedMeanwhile();
+    void whatIsTypedGoesAlong_data() { bothWays(); }
+    void whatIsTypedGoesAlong();
     void nothingDuringTheLoad_data() { bothWays(); }
     void nothingDuringTheLoad();
 
@@ -149,7 +151,12 @@ void testSaving::cancelled()
 {
     QFETCH(std::function<void(QWidget &)>, cancel);
     makeNotes(6);
-    m_notes[2]->saved = [&] { cancel(*m_test->program.forms.find(formNames::Status)->window()); };
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (m_test->program.SaveProgress == 3)
+            cancel(*m_test->program.forms.find(formNames::Status)->window());
+    });
+    timer.start(0);
     modForms::SaveAllWithProgress(m_test->program);
     QCOMPARE(stored(), QStringList({u"note 3"_s, u"note 2"_s, u"note 1"_s}));
     QCOMPARE(changedCount(), 3);
@@ -159,15 +166,39 @@ void testSaving::cancelled()
 
 void testSaving::noteThatGoesMeanwhile()
 {
-    QFETCH(SaveAll, saveAll);
     makeNotes(4);
-    // A box about what was typed lets events run.
-    m_notes[0]->committing = [&] {
+    QTimer::singleShot(0, this, [this] {
         m_notes[2]->unload();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-    saveAll(m_test->program);
+    });
+    modForms::SaveAllWithProgress(m_test->program);
     QCOMPARE(stored(), QStringList({u"note 4"_s, u"note 2"_s, u"note 1"_s}));
+}
+
+/// A signal, or the end of the session, while the progress window is open.
+void testSaving::endedMeanwhile()
+{
+    makeNotes(4);
+    QTimer::singleShot(0, this, [this] {
+        m_test->program.Exiting = true;
+        modForms::SaveAllNotes(m_test->program);
+        modForms::CloseAllWindows(m_test->program);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+    modForms::SaveAllWithProgress(m_test->program);
+    QCOMPARE(stored().size(), 4);
+}
+
+void testSaving::whatIsTypedGoesAlong()
+{
+    QFETCH(SaveAll, saveAll);
+    makeNotes(1);
+    saveAll(m_test->program);
+    m_notes[0]->typed = u"typed"_s;
+    QVERIFY(modForms::hasUnsavedNotes(m_test->program));
+    saveAll(m_test->program);
+    QCOMPARE(stored(), QStringList(u"typed"_s));
+    QCOMPARE(m_notes[0]->timesLeft, 0);
 }
 
 void testSaving::nothingDuringTheLoad()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "forms/modForms.h"
+#include "forms/modFormsTexts.h"
 #include "forms/modNumerics.h"
 #include "forms/modTimers.h"
 

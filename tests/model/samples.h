@@ -51,7 +51,7 @@ inline void setContents(const QString &path, const QByteArray &bytes)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
-inline QByteArray sampleFile(const char *name)
+inline QByteArray sampleFile(const QByteArray &name)
 {
-    return contents(QStringLiteral(TEST_DATA "/") + QLatin1StringView(name));
+    return contents(QStringLiteral(TEST_DATA "/") + QString::fromLatin1(name));
 }

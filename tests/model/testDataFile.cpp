@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "model/wholeFile.h"
 #include "model/modFileIO.h"
 #include "model/modStreams.h"
+#include "model/wholeFile.h"
 #include "samples.h"
 
 #include <QDir>
@@ -34,7 +34,7 @@ public:
         notes.clear();
         progress.clear();
         const auto onRecord = [&](clsNoteProps &&note) {
-            duringLoad = modFileIO::WriteNoteRecord(state, taggedNote(1, {}), true).kind;
+            duringLoad = modFileIO::WriteNoteRecord(state, taggedNote(1, {}), NoteFate::Keep).kind;
             if (note.NoteStackOn && !takesStacked)
                 return 0;
             note.Tag = int(notes.size()) + 1;
@@ -49,15 +49,15 @@ public:
     {
         SaveBatch batch(state);
         for (const clsNoteProps &note : notes)
-            static_cast<void>(modFileIO::WriteNoteRecord(state, note, true));
+            static_cast<void>(modFileIO::WriteNoteRecord(state, note, NoteFate::Keep));
         return batch.end();
     }
 
     WriteResult save(qint32 tag, const QString &text)
     {
-        return modFileIO::WriteNoteRecord(state, taggedNote(tag, text), true);
+        return modFileIO::WriteNoteRecord(state, taggedNote(tag, text), NoteFate::Keep);
     }
-    WriteResult remove(qint32 tag) { return modFileIO::WriteNoteRecord(state, taggedNote(tag, {}), false); }
+    WriteResult remove(qint32 tag) { return modFileIO::WriteNoteRecord(state, taggedNote(tag, {}), NoteFate::Remove); }
     QByteArray dataFile() const { return contents(state.paths.DataFile); }
     QByteArray backup() const { return contents(state.paths.BackupFile); }
     QStringList texts() const
@@ -82,6 +82,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(Runs &)>)
+
 class testDataFile final : public QObject
 {
     Q_OBJECT
@@ -91,11 +93,13 @@ private slots:
     void startsOverAndOver();
     void batchWritesOnce();
     void moreNotesThanRoom();
-    void keepsDamageAside_data();
-    void keepsDamageAside();
-    void emptyFileDoesNotCostTheBackup();
+    void damagedFiles_data();
+    void damagedFiles();
+    void emptyFile_data();
+    void emptyFile();
     void othersFileIsKept();
-    void unreadableFileIsNeverWritten();
+    void unreadableFile_data();
+    void unreadableFile();
     void readOnlyFolder();
 };
 
@@ -182,54 +186,103 @@ void testDataFile::moreNotesThanRoom()
     QCOMPARE(runs.notes[30].Data, u"note 130"_s);
 }
 
-void testDataFile::keepsDamageAside_data()
+/// One row for each file of tests/data/damaged: what is wrong with it stands in its name.
+void testDataFile::damagedFiles_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<int>("restored");
-    const QByteArray good = sampleFile("household.dat");
-    QByteArray patched = good;
-    QTest::newRow("seven bytes") << QByteArray("\x07\0\0\0\0\0\0", 7) << 0;
-    QTest::newRow("random") << QByteArray::fromHex("9d01c2f700ab31ffee100203deadbeef41") << 0;
-    QTest::newRow("bytes behind a zero count") << QByteArray::fromHex("0d00000000000000"
-                                                                      "0102030405")
-                                               << 0;
-    QTest::newRow("a negative count") << patched.replace(4, 4, "\xFE\xFF\xFF\xFF") << 0;
-    QTest::newRow("count too large") << patched.replace(4, 4, "\xFF\xFF\xFF\x7F") << 10;
-    QTest::newRow("count too small") << patched.replace(4, 4, QByteArray("\x09\0\0\0", 4)) << 9;
-    QTest::newRow("wrong total") << QByteArray(good).replace(0, 1, "\xFF") << 10;
-    QTest::newRow("trailing byte") << good + 'x' << 10;
-    QTest::newRow("overlapping entries") << QByteArray(good).replace(24, 4, good.mid(12, 4)) << 10;
-    QTest::newRow("one record short") << good.chopped(1) << 9;
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<int>("notRead");
+    QTest::addColumn<bool>("isDamage"); // It is kept aside then, and so is the former backup.
+    QTest::newRow("header-cut") << 0 << 0 << true;
+    QTest::newRow("not-a-data-file") << 0 << 3 << true;
+    QTest::newRow("count-negative") << 0 << 0 << true;
+    QTest::newRow("count-of-two-thousand-million") << 10 << 271 << true;
+    QTest::newRow("count-one-short") << 9 << 0 << true;
+    QTest::newRow("count-zero-but-records") << 0 << 0 << true;
+    QTest::newRow("total-wrong") << 10 << 0 << false;
+    QTest::newRow("last-byte-missing") << 9 << 1 << true;
+    QTest::newRow("bytes-behind-the-end") << 10 << 0 << true;
+    QTest::newRow("start-before-the-file") << 9 << 1 << true;
+    QTest::newRow("start-behind-the-file") << 9 << 1 << true;
+    QTest::newRow("two-entries-for-one-record") << 10 << 0 << true;
+    QTest::newRow("length-wrong") << 10 << 0 << false;
+    QTest::newRow("text-of-negative-length") << 9 << 1 << true;
+    QTest::newRow("text-of-odd-length") << 9 << 1 << true;
+    QTest::newRow("text-longer-than-the-file") << 9 << 1 << true;
+    QTest::newRow("true-as-one") << 10 << 0 << false;
+    QTest::newRow("sector-of-zeros") << 10 << 0 << true;
+    const QStringList files = QDir(QStringLiteral(TEST_DATA "/damaged")).entryList(QDir::Files);
+    QCOMPARE(files.size(), 18);
 }
 
-void testDataFile::keepsDamageAside()
+void testDataFile::damagedFiles()
 {
-    QFETCH(QByteArray, file);
-    QFETCH(int, restored);
+    QFETCH(int, shown);
+    QFETCH(int, notRead);
+    QFETCH(bool, isDamage);
+    const QByteArray file = sampleFile(QByteArray("damaged/") + QTest::currentDataTag() + ".dat");
     Runs runs;
     setContents(runs.state.paths.DataFile, file);
     setContents(runs.state.paths.BackupFile, "what was good");
     runs.start();
-    QVERIFY(runs.report.restored >= restored);
-    QCOMPARE(runs.report.keptAside.size(), 2);
-    QVERIFY(runs.report.keptAside.first().endsWith(u"/quillets-2026-11-22-221530-damaged.dat"));
-    QCOMPARE(contents(runs.report.keptAside.first()), file);
-    QCOMPARE(contents(runs.report.keptAside.last()), QByteArray("what was good"));
+    QCOMPARE(runs.report.restored, shown);
+    QCOMPARE(runs.report.undecodable, notRead);
+    QCOMPARE(runs.backup(), shown + notRead > 0 ? file : QByteArray());
+    if (isDamage) {
+        QCOMPARE(runs.report.keptAside.size(), 2);
+        QVERIFY(runs.report.keptAside.first().endsWith(u"/quillets-2026-11-22-221530-damaged.dat"));
+        QCOMPARE(contents(runs.report.keptAside.first()), file);
+        QCOMPARE(contents(runs.report.keptAside.last()), QByteArray("what was good"));
+    }
     QVERIFY(runs.saveAll().ok());
-    const size_t count = runs.notes.size();
     runs.start();
-    QCOMPARE(runs.notes.size(), count);
-    QVERIFY(runs.report.keptAside.size() <= int(count == 0));
+    QCOMPARE(int(runs.notes.size()), shown);
+    QVERIFY(runs.report.keptAside.isEmpty() && runs.report.undecodable == 0);
 }
 
-void testDataFile::emptyFileDoesNotCostTheBackup()
+void testDataFile::emptyFile_data()
 {
+    QTest::addColumn<std::function<void(Runs &)>>("empty");
+    QTest::addColumn<bool>("isLoss");
+    const auto removeAll = [](Runs &runs) {
+        for (const clsNoteProps &note : runs.notes)
+            QVERIFY(runs.remove(note.Tag).kind == WriteResult::Kind::Written);
+    };
+    const auto cut = [](Runs &runs) { setContents(runs.state.paths.DataFile, {}); };
+    const auto row = [](const char *name, std::function<void(Runs &)> empty, bool isLoss) {
+        QTest::newRow(name) << empty << isLoss;
+    };
+    row("all notes deleted", removeAll, false);
+    row(
+        "file removed", [](Runs &runs) { QFile::remove(runs.state.paths.DataFile); }, true);
+    row("file cut to nothing", cut, true);
+    const auto newNote = [removeAll](Runs &runs) {
+        removeAll(runs);
+        QVERIFY(runs.save(99, u"new"_s).kind == WriteResult::Kind::Written);
+    };
+    row(
+        "cut after a note that came after all others were deleted",
+        [=](Runs &runs) {
+            newNote(runs);
+            cut(runs);
+        },
+        true);
+}
+
+/// What the user has deleted is not told as lost; what is gone in another way is, and does not cost the backup.
+void testDataFile::emptyFile()
+{
+    QFETCH(std::function<void(Runs &)>, empty);
+    QFETCH(bool, isLoss);
     Runs runs;
-    setContents(runs.state.paths.BackupFile, sampleFile("household.dat"));
-    QFile::remove(runs.state.paths.DataFile);
+    setContents(runs.state.paths.DataFile, sampleFile("household.dat"));
     runs.start();
-    QCOMPARE(runs.report.keptAside.size(), 1);
-    QCOMPARE(contents(runs.report.keptAside.first()), sampleFile("household.dat"));
+    empty(runs);
+    const QByteArray backup = runs.backup();
+    runs.start();
+    QCOMPARE(runs.report.keptAside.size(), isLoss ? 1 : 0);
+    if (isLoss)
+        QCOMPARE(contents(runs.report.keptAside.first()), backup);
+    QVERIFY(runs.notes.empty() && runs.report.problem.isEmpty());
     runs.start();
     QVERIFY(runs.report.keptAside.isEmpty() && runs.backup().isEmpty());
 }
@@ -261,19 +314,41 @@ void testDataFile::othersFileIsKept()
     QCOMPARE(runs.texts(), QStringList(u"in a new folder"_s));
 }
 
-void testDataFile::unreadableFileIsNeverWritten()
+void testDataFile::unreadableFile_data()
 {
+    QTest::addColumn<QByteArray>("comesBack");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("nothing") << QByteArray() << 0;
+    QTest::newRow("its notes") << sampleFile("household.dat") << 10;
+    QTest::newRow("damaged") << sampleFile("damaged/last-byte-missing.dat") << 9;
+}
+
+/// What could not be read at the start is not written over; when it can be read again it is stored with the rest.
+void testDataFile::unreadableFile()
+{
+    QFETCH(QByteArray, comesBack);
+    QFETCH(int, stored);
     Runs runs;
     setContents(runs.state.paths.BackupFile, "what was good");
     QFile::remove(runs.state.paths.DataFile);
     QDir().mkdir(runs.state.paths.DataFile);
     runs.start();
     QVERIFY(!runs.report.problem.isEmpty() && runs.report.problem == runs.state.readOnlyReason);
-    QDir().rmdir(runs.state.paths.DataFile);
-    const WriteResult refused = runs.save(1, u"text"_s);
-    QVERIFY(refused.kind == WriteResult::Kind::Failed && refused.reason == runs.state.readOnlyReason);
-    QVERIFY(!QFile::exists(runs.state.paths.DataFile));
+    for (const QString &text : {u"new"_s, u"newer"_s}) {
+        const WriteResult refused = runs.save(1, text);
+        QVERIFY(refused.kind == WriteResult::Kind::Failed && refused.reason == runs.report.problem);
+        QVERIFY(runs.state.unsaved && QFileInfo(runs.state.paths.DataFile).isDir());
+    }
     QCOMPARE(runs.backup(), QByteArray("what was good"));
+    QDir().rmdir(runs.state.paths.DataFile);
+    if (!comesBack.isEmpty())
+        setContents(runs.state.paths.DataFile, comesBack);
+    QVERIFY(modFileIO::flush(runs.state).ok() && runs.save(1, u"newest"_s).kind == WriteResult::Kind::Written);
+    QVERIFY(runs.state.keptMeanwhile.isEmpty());
+    QCOMPARE(runs.files().filter(u"damaged"_s).size(), stored == 9 ? 1 : 0);
+    runs.start();
+    QCOMPARE(int(runs.notes.size()), stored + 1);
+    QCOMPARE(runs.notes[0].Data, u"newest"_s);
 }
 
 void testDataFile::readOnlyFolder()

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/NoteHolder.h"
+#include "forms/modForms.h"
+#include "forms/modFormsSaving.h"
 #include "notes/frmNote.h"
 #include "notes/modCreateNote.h"
-#include "forms/modForms.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"
@@ -35,7 +37,7 @@ public:
 
     frmNote *create(const clsNoteProps &record, NoteCreateMode mode = NoteCreateMode::New)
     {
-        return at(modCreateNote::CreateNote(program, record, false, mode));
+        return at(modCreateNote::CreateNote(program, record, Home::Desktop, mode));
     }
     frmNote *create(const QString &text)
     {

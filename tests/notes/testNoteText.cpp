@@ -18,6 +18,7 @@ private slots:
     void drawsWhatTheTextBoxDraws();
     void drawsWhereItIsScrolledTo();
     void editsWhereItIsScrolledTo();
+    void scrollsByKeys();
     void showsMegabytes_data();
     void showsMegabytes();
 };
@@ -108,12 +109,44 @@ void testNoteText::editsWhereItIsScrolledTo()
     auto *shown = note.findChild<NoteText *>();
     for (const TextPlace place : {TextPlace{3, 1}, TextPlace{1000, 0}}) {
         shown->scrollTo(place);
-        const QImage display = note.grab().toImage();
+        // Without the margin, where the mark is that there is more.
+        const QRect letters = note.rect().adjusted(0, 0, -NoteText::air().right(), 0);
+        const QImage display = note.grab(letters).toImage();
         body.BeginTextEditing(text);
-        QCOMPARE(note.grab().toImage(), display);
+        QCOMPARE(note.grab(letters).toImage(), display);
         body.commit();
-        QCOMPARE(note.grab().toImage(), display);
+        QCOMPARE(note.grab(letters).toImage(), display);
     }
+}
+
+/// And the mark in the margin is there as long as there is more below.
+void testNoteText::scrollsByKeys()
+{
+    QWidget window;
+    NoteText text(&window);
+    text.resize(200, 100);
+    text.setCaption(u"line\r\n"_s.repeated(49) + u"line"_s);
+    const auto press = [&text](int key, Qt::KeyboardModifiers modifiers = {}) {
+        return text.scrollByKey(QKeyEvent(QEvent::KeyPress, key, modifiers));
+    };
+    const auto top = [&text] { return text.place().paragraph; };
+    const auto isMarked = [&text] {
+        const QImage margin = text.grab(QRect(195, 0, 5, 100)).toImage();
+        return margin != QImage(margin).copy(0, 0, 1, 1).scaled(margin.size());
+    };
+    QVERIFY(press(Qt::Key_Down) && top() == 1);
+    QVERIFY(press(Qt::Key_Down, Qt::KeypadModifier) && top() == 2);
+    QVERIFY(press(Qt::Key_Up) && top() == 1);
+    QVERIFY(press(Qt::Key_PageDown) && top() > 3 && isMarked());
+    QVERIFY(press(Qt::Key_PageUp) && top() == 1);
+    QVERIFY(press(Qt::Key_End) && top() > 40 && !isMarked());
+    const int last = top();
+    QVERIFY(press(Qt::Key_Down) && top() == last);
+    QVERIFY(press(Qt::Key_Up) && isMarked());
+    QVERIFY(press(Qt::Key_Home, Qt::ControlModifier) && top() == 0);
+    QVERIFY(!press(Qt::Key_Down, Qt::AltModifier) && !press(Qt::Key_Left) && top() == 0);
+    text.setCaption(u"short"_s);
+    QVERIFY(press(Qt::Key_End) && top() == 0 && !isMarked());
 }
 
 void testNoteText::showsMegabytes_data()

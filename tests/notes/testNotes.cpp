@@ -81,7 +81,7 @@ void testNotes::limit()
     QCOMPARE(program.NoteCounter, 100);
     clsNoteProps moved = program.NoteTemplate;
     moved.Tag = 17;
-    modCreateNote::moveNote(program, moved, false, false);
+    modCreateNote::moveToDesktop(program, moved, Lid::AsRecorded);
     QVERIFY(m_fixture->at(17) != nullptr);
     QCOMPARE(m_fixture->stored().size(), size_t(1));
 }

@@ -47,7 +47,7 @@ public:
     }
     qint32 add(const clsNoteProps &note)
     {
-        return modCreateNote::CreateNote(program, note, true, NoteCreateMode::Load);
+        return modCreateNote::CreateNote(program, note, Home::NoteStack, NoteCreateMode::Load);
     }
     void addAll(const QStringList &texts)
     {

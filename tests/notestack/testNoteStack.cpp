@@ -3,6 +3,7 @@
 #include "notestack/StackFixture.h"
 
 #include <QMenu>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using Answer = Prompts::Answer;
@@ -123,6 +124,7 @@ void testNoteStack::captions_data()
     QTest::newRow("combining") << u"e"_s + QString(3000, QChar(0x0301)) << true;
     QTest::newRow("emoji") << u"\U0001F600"_s.repeated(400) << false;
     QTest::newRow("200 000 characters") << QString(200'000, u'W') << false;
+    QTest::newRow("control characters") << u"a\tb\u2028c\u0085d"_s << true;
 }
 
 void testNoteStack::captions()
@@ -139,6 +141,17 @@ void testNoteStack::captions()
     QVERIFY(m_fixture->tabs.fontMetrics().horizontalAdvance(caption) <= NoteTabs::widestCaption());
     QVERIFY(m_fixture->tabs.tabToolTip(0).contains(title.left(1000).toHtmlEscaped().replace(u"&amp;"_s, u"&"_s)));
     m_fixture->stack.grab();
+    // In the list of all a tab would begin a second column.
+    QString listed;
+    QTimer::singleShot(0, &m_fixture->stack, [&listed] {
+        auto *list = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        listed = list->actions().constFirst()->text();
+        list->close();
+    });
+    m_fixture->click("cmdTabList");
+    QVERIFY(!listed.isEmpty() && std::none_of(listed.begin(), listed.end(), [](QChar c) {
+        return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line;
+    }));
 }
 
 void testNoteStack::leavingCommits_data()
@@ -162,8 +175,8 @@ void testNoteStack::leavingCommits()
     QVERIFY(QTest::qWaitForWindowActive(&m_fixture->stack));
     m_fixture->type(1, u" and typed"_s);
     leave(*m_fixture);
-    QCOMPARE(m_fixture->program.forms.holderOf(2)->recordOf(2)->Data, u"old and typed"_s);
-    QCOMPARE(m_fixture->program.forms.holderOf(1)->recordOf(1)->Data, u"other"_s);
+    QCOMPARE(m_fixture->program.forms.recordOf(2)->Data, u"old and typed"_s);
+    QCOMPARE(m_fixture->program.forms.recordOf(1)->Data, u"other"_s);
 }
 
 void testNoteStack::lockedTextIsNowhere()
@@ -208,6 +221,7 @@ void testNoteStack::orderIsKept()
 {
     m_fixture->addAll({u"a"_s, u"b"_s, u"c"_s});
     m_fixture->tabs.setCurrentIndex(1);
+    modForms::SaveAllNotes(m_fixture->program);
     m_fixture->stack.keepPlace();
     frmNoteStack next(m_fixture->program);
     next.Initialize();

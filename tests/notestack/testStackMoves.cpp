@@ -36,11 +36,15 @@ private slots:
     void alarmBringsToTheDesktop();
     void alarmBehindADialog_data();
     void alarmBehindADialog();
+    void editOutlivesAnotherNotesAlarm();
+    void typedTitleIsKept_data();
+    void typedTitleIsKept();
+    void deletedWhereItLives();
     void hundredLargeNotes();
 
 private:
     Program &program() { return m_fixture->program; }
-    clsNoteProps *recordOf(qint32 tag) { return program().forms.holderOf(tag)->recordOf(tag); }
+    clsNoteProps *recordOf(qint32 tag) { return program().forms.recordOf(tag); }
     std::unique_ptr<StackFixture> m_fixture;
 };
 
@@ -99,8 +103,8 @@ void testStackMoves::allAtOnce()
     m_fixture->stack.TransferAllToDesktop();
     QCOMPARE(m_fixture->test.prompts.last.text, u"Sorry, this is a locked quillet."_s);
     QStringList order;
-    for (const Form *note : program().forms.notes())
-        order.append(QString::number(note->Tag()));
+    for (Form *note : program().forms.notes())
+        order.append(QString::number(note->holder()->tags().front()));
     QCOMPARE(order.join(u' '), u"3 4 5 7 8 9 10 11 12 2 1"_s);
     QCOMPARE(m_fixture->captions(), QStringList(u"6"_s));
     QCOMPARE(program().file.replacements, 1);
@@ -117,12 +121,12 @@ void testStackMoves::cancelledSaveKeepsTheMarks()
     m_fixture->addAll({u"1"_s, u"2"_s, u"3"_s});
     QTimer::singleShot(0, qApp, [this] { program().forms.find(formNames::Status)->window()->close(); });
     modForms::SaveAllWithProgress(program());
-    QCOMPARE(m_fixture->stored().size() + m_fixture->stack.changedTags().size(), size_t(3));
-    QVERIFY(!m_fixture->stack.changedTags().empty());
+    QCOMPARE(m_fixture->stored().size() + modForms::unsavedTags(program()).size(), size_t(3));
+    QVERIFY(!modForms::unsavedTags(program()).empty());
     m_fixture->home.spoilDataFile();
     m_fixture->test.prompts.expect(Answer::Ok);
     modForms::SaveAllNotes(program());
-    QCOMPARE(m_fixture->stack.changedTags().size(), size_t(3));
+    QCOMPARE(modForms::unsavedTags(program()).size(), size_t(3));
     m_fixture->home.healDataFile();
 }
 
@@ -178,6 +182,58 @@ void testStackMoves::alarmBehindADialog()
     QCOMPARE(m_fixture->test.sound.played.size(), 1);
 }
 
+/// The note that is being edited stays chosen, whichever other one leaves.
+void testStackMoves::editOutlivesAnotherNotesAlarm()
+{
+    const qint32 before = m_fixture->add(m_fixture->alarmed(m_fixture->record(u"before"_s)));
+    const qint32 edited = m_fixture->add(m_fixture->record(u"three"_s));
+    m_fixture->add(m_fixture->record(u"behind"_s));
+    m_fixture->tabs.setCurrentIndex(1);
+    m_fixture->type(1, u" fo"_s);
+    m_fixture->test.clock.advance(60);
+    QVERIFY(m_fixture->at(before) != nullptr);
+    QCOMPARE(m_fixture->tabs.currentIndex(), 0);
+    auto &box = NoteFixture::control<QPlainTextEdit>(m_fixture->stack, "txtText(0)");
+    QVERIFY(box.isVisible());
+    QTest::keyClicks(&box, u"ur"_s);
+    m_fixture->stack.commitEditing();
+    QCOMPARE(recordOf(edited)->Data, u"three four"_s);
+}
+
+void testStackMoves::typedTitleIsKept_data()
+{
+    using Leaving = std::function<void(StackFixture &, qint32)>;
+    QTest::addColumn<Leaving>("leave");
+    QTest::newRow("to the desktop") << Leaving([](StackFixture &all, qint32 tag) { all.stack.moveAway(tag); });
+    QTest::newRow("locked") << Leaving([](StackFixture &all, qint32) { all.stack.lockform(-1); });
+    QTest::newRow("alarm") << Leaving([](StackFixture &all, qint32) { all.test.clock.advance(60); });
+    QTest::newRow("a save") << Leaving([](StackFixture &all, qint32) { modForms::SaveAllNotes(all.program); });
+}
+
+void testStackMoves::typedTitleIsKept()
+{
+    QFETCH(std::function<void(StackFixture &, qint32)>, leave);
+    const qint32 tag = m_fixture->add(m_fixture->alarmed(m_fixture->record(u"text"_s)));
+    m_fixture->choose("mnuTitle");
+    NoteFixture::control<QLineEdit>(m_fixture->stack, "txtTitle").setText(u"Typed"_s);
+    leave(*m_fixture, tag);
+    QCOMPARE(recordOf(tag)->TitleBarTitle, u"Typed"_s);
+}
+
+/// The question is answered after the alarm has moved the note.
+void testStackMoves::deletedWhereItLives()
+{
+    const qint32 tag = m_fixture->add(m_fixture->alarmed(m_fixture->record(u"text"_s)));
+    m_fixture->test.prompts.expect(Answer::Ok);
+    m_fixture->test.prompts.whileOpen = [this, tag] {
+        m_fixture->test.clock.advance(60);
+        QVERIFY(m_fixture->at(tag) != nullptr);
+    };
+    m_fixture->choose("mnuDelete");
+    QCOMPARE(recordOf(tag), nullptr);
+    QVERIFY(m_fixture->stored().empty());
+}
+
 void testStackMoves::hundredLargeNotes()
 {
     for (int k = 0; k < 100; ++k)
@@ -186,7 +242,7 @@ void testStackMoves::hundredLargeNotes()
     modForms::SaveAllNotes(program());
     m_fixture->tabs.setCurrentIndex(50);
     for (int k = 0; k < 100; ++k)
-        modCreateNote::CreateNote(program(), {}, true, NoteCreateMode::Move);
+        modCreateNote::CreateNote(program(), {}, Home::NoteStack, NoteCreateMode::Move);
     QCOMPARE(m_fixture->stack.noteCount(), 200); // The limit does not refuse moves.
     {
         SaveBatch batch(program().file);

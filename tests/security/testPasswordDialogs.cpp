@@ -25,12 +25,17 @@ void enter(const QWidget &dialog, const char *name, const QString &text)
     control<QLineEdit>(dialog, name).setText(text);
 }
 
+void enterBoth(const QDialog &dialog, const QString &first, const QString &second)
+{
+    enter(dialog, "txtPwd1", first);
+    enter(dialog, "txtPwd2", second);
+}
+
 /// Gives a new password, or cancels where it is empty.
 void answerNewPassword(const QString &password)
 {
     answerDialog(u"frmNewPwd"_s, [password](QDialog &dialog) {
-        enter(dialog, "txtPwd1", password);
-        enter(dialog, "txtPwd2", password);
+        enterBoth(dialog, password, password);
         press(dialog, password.isEmpty() ? "CancelButton" : "OKButton");
     });
 }
@@ -61,7 +66,7 @@ class testPasswordDialogs final : public QObject
 
 private slots:
     void init();
-    void cleanup() { QVERIFY(m_test->prompts.isDone()); }
+    void cleanup();
 
     void newPassword_data();
     void newPassword();
@@ -70,22 +75,46 @@ private slots:
     void everyBoxIsMasked();
     void wipingKeepsWhatOthersHold();
     void switchingOn();
-    void switchingOnInVain();
     void switchingOff_data();
     void switchingOff();
-    void switchedOnAndOffAgainAsksNothing();
     void changing();
     void cancelDropsAll();
 
 private:
     Program &program() { return m_test->program; }
+    QDialog &open(const clsNoteProps &note);
+    /// Presses what is refused.
+    void pressInVain(const char *name, const Message &told);
+
     std::unique_ptr<TestProgram> m_test;
+    std::unique_ptr<frmPwdSettings> m_settings;
 };
 
 void testPasswordDialogs::init()
 {
     failOnWarnings();
     m_test = std::make_unique<TestProgram>(Now);
+    m_settings = std::make_unique<frmPwdSettings>(program(), nullptr);
+}
+
+void testPasswordDialogs::cleanup()
+{
+    m_settings.reset();
+    QVERIFY(m_test->prompts.isDone());
+}
+
+QDialog &testPasswordDialogs::open(const clsNoteProps &note)
+{
+    m_settings->Initialize(note);
+    m_settings->show();
+    return *m_settings;
+}
+
+void testPasswordDialogs::pressInVain(const char *name, const Message &told)
+{
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    press(*m_settings, name);
+    QVERIFY(m_test->prompts.last == told);
 }
 
 void testPasswordDialogs::newPassword_data()
@@ -109,8 +138,7 @@ void testPasswordDialogs::newPassword()
     frmNewPwd dialog(program(), nullptr);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    enter(dialog, "txtPwd1", first);
-    enter(dialog, "txtPwd2", second);
+    enterBoth(dialog, first, second);
     if (!message.isEmpty())
         m_test->prompts.expect(Prompts::Answer::Ok);
     press(dialog, "OKButton");
@@ -131,8 +159,7 @@ void testPasswordDialogs::currentPasswordIsVerified()
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     enter(dialog, "txtPwd3", u"Old"_s);
-    enter(dialog, "txtPwd1", u"new"_s);
-    enter(dialog, "txtPwd2", u"new"_s);
+    enterBoth(dialog, u"new"_s, u"new"_s);
     m_test->prompts.expect(Prompts::Answer::Ok);
     press(dialog, "OKButton");
     QCOMPARE(m_test->prompts.last.text, u"Sorry.  The current password is not correct.  Please try again."_s);
@@ -181,31 +208,27 @@ void testPasswordDialogs::switchingOn()
 {
     clsNoteProps note;
     note.PwdOpenCloseOn = true;
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize(note);
-    dialog.show();
-    QCOMPARE(control<QCheckBox>(dialog, "chkPwd1").checkState(), Qt::PartiallyChecked);
+    const QDialog &dialog = open(note);
+    const auto stateOf = [&dialog](const char *box) { return control<QCheckBox>(dialog, box).checkState(); };
+    answerNewPassword({});
+    pressInVain("chkPwd", {u"Enabling password protection failed."_s, u"Enabling failed"_s});
+    QCOMPARE(stateOf("chkPwd"), Qt::Unchecked);
+    QCOMPARE(stateOf("chkPwd1"), Qt::PartiallyChecked);
     QVERIFY(!control<QWidget>(dialog, "cmdChangePwd").isEnabled());
     answerNewPassword(u"new"_s);
     press(dialog, "chkPwd");
-    QCOMPARE(control<QCheckBox>(dialog, "chkPwd1").checkState(), Qt::Checked);
+    QCOMPARE(stateOf("chkPwd1"), Qt::Checked);
     press(dialog, "chkPwd2");
     press(dialog, "OKButton");
-    QVERIFY(dialog.PwdResult(note));
+    QVERIFY(m_settings->PwdResult(note));
     QVERIFY(note.PwdOn && note.Pwd == u"new" && note.PwdOpenCloseOn && note.PwdReadonlyOn && note.SaveTag == 1);
-}
-
-void testPasswordDialogs::switchingOnInVain()
-{
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize({});
-    dialog.show();
-    answerNewPassword({});
-    m_test->prompts.expect(Prompts::Answer::Ok);
-    press(dialog, "chkPwd");
-    QVERIFY((m_test->prompts.last == Message{u"Enabling password protection failed."_s, u"Enabling failed"_s}));
-    QVERIFY(!control<QCheckBox>(dialog, "chkPwd").isChecked());
-    QCOMPARE(control<QCheckBox>(dialog, "chkPwd2").checkState(), Qt::PartiallyChecked);
+    // The note never had it: nothing is asked.
+    open({});
+    answerNewPassword(u"new"_s);
+    for (const char *name : {"chkPwd", "chkPwd", "OKButton"})
+        press(dialog, name);
+    clsNoteProps untouched;
+    QVERIFY(m_settings->PwdResult(untouched) && !untouched.PwdOn && untouched.Pwd.isEmpty());
 }
 
 void testPasswordDialogs::switchingOff_data()
@@ -224,69 +247,44 @@ void testPasswordDialogs::switchingOff()
     QFETCH(QByteArray, button);
     QFETCH(bool, off);
     clsNoteProps note = protectedNote();
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize(note);
-    dialog.show();
+    const QDialog &dialog = open(note);
     answerPassword(typed, button.constData());
-    if (!off)
-        m_test->prompts.expect(Prompts::Answer::Ok);
-    press(dialog, "chkPwd");
-    if (!off)
-        QVERIFY((m_test->prompts.last == Message{u"Disabling password protection failed."_s, u"Disabling failed"_s}));
+    if (off)
+        press(dialog, "chkPwd");
+    else
+        pressInVain("chkPwd", {u"Disabling password protection failed."_s, u"Disabling failed"_s});
     QCOMPARE(control<QCheckBox>(dialog, "chkPwd").isChecked(), !off);
     press(dialog, "OKButton");
-    QVERIFY(dialog.PwdResult(note));
+    QVERIFY(m_settings->PwdResult(note));
     QCOMPARE(note.PwdOn, !off);
     QCOMPARE(note.Pwd, off ? QString() : u"old"_s);
-}
-
-void testPasswordDialogs::switchedOnAndOffAgainAsksNothing()
-{
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize({});
-    dialog.show();
-    answerNewPassword(u"new"_s);
-    press(dialog, "chkPwd");
-    press(dialog, "chkPwd");
-    press(dialog, "OKButton");
-    clsNoteProps note = protectedNote();
-    QVERIFY(dialog.PwdResult(note));
-    QVERIFY(!note.PwdOn && note.Pwd.isEmpty());
 }
 
 void testPasswordDialogs::changing()
 {
     clsNoteProps note = protectedNote();
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize(note);
-    dialog.show();
+    const QDialog &dialog = open(note);
     answerDialog(u"frmChangePwd"_s, [](QDialog &change) { press(change, "CancelButton"); });
-    m_test->prompts.expect(Prompts::Answer::Ok);
-    press(dialog, "cmdChangePwd");
-    QVERIFY((m_test->prompts.last == Message{u"Password change failed. "_s, u"Change failed"_s}));
+    pressInVain("cmdChangePwd", {u"Password change failed. "_s, u"Change failed"_s});
     answerDialog(u"frmChangePwd"_s, [](QDialog &change) {
         enter(change, "txtPwd3", u"old"_s);
-        enter(change, "txtPwd1", u"new"_s);
-        enter(change, "txtPwd2", u"new"_s);
+        enterBoth(change, u"new"_s, u"new"_s);
         press(change, "OKButton");
     });
     press(dialog, "cmdChangePwd");
     press(dialog, "OKButton");
-    QVERIFY(dialog.PwdResult(note) && note.Pwd == u"new" && note.PwdOn);
+    QVERIFY(m_settings->PwdResult(note) && note.Pwd == u"new" && note.PwdOn);
 }
 
 void testPasswordDialogs::cancelDropsAll()
 {
-    const clsNoteProps before = protectedNote();
-    clsNoteProps note = before;
-    frmPwdSettings dialog(program(), nullptr);
-    dialog.Initialize(note);
-    dialog.show();
+    clsNoteProps note = protectedNote();
+    const QDialog &dialog = open(note);
     press(dialog, "chkPwd1");
     answerPassword(u"old"_s, "OKButton");
     press(dialog, "chkPwd");
     press(dialog, "CancelButton");
-    QVERIFY(!dialog.PwdResult(note) && note == before);
+    QVERIFY(!m_settings->PwdResult(note) && note == protectedNote());
 }
 
 QTEST_MAIN(testPasswordDialogs)

@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "forms/Form.h"
+#include "forms/modForms.h"
+#include "forms/modFormsSaving.h"
 #include "model/modStreams.h"
 #include "shell/modInit.h"
-#include "forms/modForms.h"
+#include "shell/modInitEnd.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
 #include "support/failOnWarnings.h"
@@ -114,7 +117,7 @@ void testStartUp::moreNotesThanRoom()
         clsNoteProps note = m_test->program.NoteTemplate;
         note.Tag = tag;
         note.Data = QString::number(tag);
-        static_cast<void>(modFileIO::WriteNoteRecord(m_test->program.file, note, true));
+        static_cast<void>(modFileIO::WriteNoteRecord(m_test->program.file, note, NoteFate::Keep));
     }
     const auto before = records();
     QCOMPARE(before.size(), size_t(130));
@@ -217,7 +220,7 @@ void testStartUp::exitAsksBeforeItGivesUp()
     program.file.LoadingData = false;
     QCOMPARE(program.forms.notes().size(), size_t(8));
     m_home->spoilDataFile();
-    program.forms.notes().front()->GetThisNoteProps()->Data = u"changed"_s;
+    program.forms.recordOf(program.forms.tags().front())->Data = u"changed"_s;
     m_test->prompts.expect(Answer::Ok);
     m_test->prompts.expect(Answer::Cancel);
     modInit::ExitProgram(program);

@@ -13,9 +13,10 @@ public:
     bool isThere = true;
     QUrl last;
 
-    bool open(const QUrl &page) override
+    void open(const QUrl &page, const std::function<void()> &notFound) override
     {
         last = page;
-        return isThere;
+        if (!isThere)
+            notFound();
     }
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/SystemClock.h"
+#include "platform/Clock.h"
 
 #include <QCoreApplication>
 

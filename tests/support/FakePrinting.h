@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/SystemPrinting.h"
+#include "platform/Printing.h"
 
 #include <QBuffer>
 #include <QPdfWriter>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/SystemSound.h"
+#include "platform/SoundPlayer.h"
 
 #include <QStringList>
 

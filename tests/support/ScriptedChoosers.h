@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/SystemChoosers.h"
+#include "platform/Choosers.h"
 
 #include <QTest>
 

@@ -25,12 +25,12 @@ def until(condition, what):
 
 
 class Display:
-    def __init__(self):
+    def __init__(self, size="1280x1024", dpi=96):
         self._folder = tempfile.mkdtemp(prefix="quillets-display-")
         reader, writer = os.pipe()
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp",
-             "-noreset"],  # A reset, as its first client leaves, takes a window manager along that has just come.
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-dpi", str(dpi), "-nolisten",
+             "tcp", "-noreset"],  # A reset, as its first client leaves, takes a window manager along that has just come.
             pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as number:
@@ -118,18 +118,18 @@ class Program:
 
 class Window:
     def __init__(self, display, number):
-        self._display, self._number = display, number
+        self._display, self.number = display, number
 
     def title(self):
-        name = self._display.run("xdotool", "getwindowname", self._number)
+        name = self._display.run("xdotool", "getwindowname", self.number)
         return name.removesuffix("\n")
 
     def state(self):
-        return self._display.run("xprop", "-id", self._number, "_NET_WM_STATE")
+        return self._display.run("xprop", "-id", self.number, "_NET_WM_STATE")
 
     def place(self):
         """Left, top, width, height; None when the window has gone."""
-        told = self._display.run("xwininfo", "-id", self._number)
+        told = self._display.run("xwininfo", "-id", self.number)
         found = re.findall(r"(?:Absolute upper-left [XY]|Width|Height): +(-?\d+)", told)
         return tuple(map(int, found)) if len(found) == 4 else None
 
@@ -139,8 +139,8 @@ class Window:
         self._display.do("click", "--repeat", times, "--delay", 60, 1)
 
     def activate(self):
-        self._display.do("windowactivate", self._number)
-        until(lambda: self._display.run("xdotool", "getactivewindow").strip() == self._number, "an active window")
+        self._display.do("windowactivate", self.number)
+        until(lambda: self._display.run("xdotool", "getactivewindow").strip() == self.number, "an active window")
 
     def drag(self, x, y, by_x, by_y):
         left, top, _, _ = self.place()

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillets developers
 # SPDX-License-Identifier: MIT
-"""Reads data files by their layout, apart from the program's own code."""
+"""Reads data files by their layout (docs/file-formats.md), apart from the program's own code."""
 import struct
 from collections import namedtuple
 

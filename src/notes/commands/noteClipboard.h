@@ -10,6 +10,7 @@
 namespace noteClipboard
 {
 
+/// With the line ends of the platform.
 void copy(const QString &text);
 /// The clipboard's text with CR LF as line ends; nothing when it holds no text.
 std::optional<QString> text();

@@ -3,34 +3,32 @@
 #include "notes/commands/noteDialogs.h"
 
 #include "alarms/frmAlarmSettings.h"
-#include "forms/showModally.h"
 #include "dialogs/frmSettings.h"
+#include "drawing/textShortening.h"
+#include "forms/NoteHolder.h"
+#include "forms/Program.h"
+#include "forms/modFormsSaving.h"
+#include "forms/showModally.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/NoteTitle.h"
-#include "drawing/textShortening.h"
 #include "security/frmPwdSettings.h"
-#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace noteDialogs
 {
 namespace
 {
 
-clsNoteProps *recordOf(Program &program, qint32 tag)
-{
-    Form *holder = program.forms.holderOf(tag);
-    return holder != nullptr ? holder->recordOf(tag) : nullptr;
-}
-
 /// Makes a dialog for a note, lets `prepare` dress it, shows it and, when it was accepted, lets `take` write its result
 /// into the record.
 template <class Dialog, class Prepare, class Take>
 void open(Program &program, qint32 tag, QWidget *owner, const Prepare &prepare, const Take &take)
 {
-    clsNoteProps *record = recordOf(program, tag);
+    clsNoteProps *record = program.forms.recordOf(tag);
     if (record == nullptr)
         return;
     const QPointer<QWidget> window = owner;
@@ -39,28 +37,25 @@ void open(Program &program, qint32 tag, QWidget *owner, const Prepare &prepare, 
     prepare(*dialog, *record);
     if (!showModally(dialog))
         return;
-    record = recordOf(program, tag);
+    record = program.forms.recordOf(tag);
     const bool taken = record != nullptr && take(*dialog, *record);
     if (taken)
-        record->SaveTag = 1;
+        modForms::markChanged(program, *record);
     dialog->unload();
     // Window managers give the focus to a window of the task bar, where notes are not.
     if (window != nullptr && window->isVisible())
         window->activateWindow();
-    Form *holder = program.forms.holderOf(tag);
+    NoteHolder *holder = program.forms.holderOf(tag);
     if (taken && holder != nullptr)
         holder->recordChanged(tag);
 }
-
-} // namespace
 
 void openSettings(Program &program, qint32 tag, QWidget *owner)
 {
     const auto caption = [](frmSettings &dialog, const clsNoteProps &record) {
         const QString title =
             textShortening::shortened(noteTitles::title(record), dialog.sizeHint().width() / 3, NoteTitle::font());
-        dialog.setWindowTitle(QCoreApplication::translate("noteDialogs", "Settings for '") + title + u'\'' +
-                              QCoreApplication::translate("noteDialogs", " - Quillets"));
+        dialog.setWindowTitle(QCoreApplication::translate("noteDialogs", "Settings for '%1' - Quillets").arg(title));
     };
     open<frmSettings>(program, tag, owner, caption,
                       [](frmSettings &dialog, clsNoteProps &record) { return dialog.SettingsResult(record); });
@@ -70,10 +65,7 @@ void openAlarm(Program &program, qint32 tag, QWidget *owner)
 {
     open<frmAlarmSettings>(
         program, tag, owner, [](const auto &, const auto &) {},
-        [](frmAlarmSettings &dialog, clsNoteProps &record) {
-            dialog.AlarmResult(record);
-            return dialog.isAccepted();
-        });
+        [](frmAlarmSettings &dialog, clsNoteProps &record) { return dialog.AlarmResult(record); });
 }
 
 void openPassword(Program &program, qint32 tag, QWidget *owner)
@@ -81,6 +73,27 @@ void openPassword(Program &program, qint32 tag, QWidget *owner)
     open<frmPwdSettings>(
         program, tag, owner, [](const auto &, const auto &) {},
         [](frmPwdSettings &dialog, clsNoteProps &record) { return dialog.PwdResult(record); });
+}
+
+/// In no order.
+constexpr NoteDialog Dialogs[] = {
+    {NoteCommand::Settings, QT_TRANSLATE_NOOP("noteDialogs", "Access to Settings failed."), openSettings},
+    {NoteCommand::Alarm, QT_TRANSLATE_NOOP("noteDialogs", "Access to Alarm functions failed."), openAlarm},
+    {NoteCommand::Password, QT_TRANSLATE_NOOP("noteDialogs", "Access to Password functions failed."), openPassword},
+};
+
+} // namespace
+
+const NoteDialog *find(NoteCommand command)
+{
+    const auto *found = std::find_if(std::begin(Dialogs), std::end(Dialogs),
+                                     [command](const NoteDialog &dialog) { return dialog.command == command; });
+    return found == std::end(Dialogs) ? nullptr : found;
+}
+
+QString failure(const NoteDialog &dialog)
+{
+    return QCoreApplication::translate("noteDialogs", dialog.failure);
 }
 
 } // namespace noteDialogs

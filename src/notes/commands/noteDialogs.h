@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/clsNoteProps.h"
+#include "notes/commands/NoteMenu.h"
 
 class Program;
 class QWidget;
@@ -12,8 +12,15 @@ class QWidget;
 namespace noteDialogs
 {
 
-void openSettings(Program &program, qint32 tag, QWidget *owner);
-void openAlarm(Program &program, qint32 tag, QWidget *owner);
-void openPassword(Program &program, qint32 tag, QWidget *owner);
+struct NoteDialog
+{
+    NoteCommand command;
+    const char *failure; ///< Said when the password of a read-only note was wrong.
+    void (*open)(Program &program, qint32 tag, QWidget *owner);
+};
+
+/// Null for a command that opens none.
+const NoteDialog *find(NoteCommand command);
+QString failure(const NoteDialog &dialog);
 
 } // namespace noteDialogs

@@ -2,23 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "notes/commands/noteDressing.h"
 
+#include "forms/Program.h"
 #include "notes/parts/NoteBody.h"
 #include "platform/Prompts.h"
-#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-
-#include <cmath>
 
 namespace noteDressing
 {
 namespace
 {
-
-constexpr float SmallestPoints = 1.0F;
-constexpr float LargestPoints = 400.0F;
-constexpr float UsualPoints = 9.0F;
 
 void tellFile(Program &program, const QString &what, const QString &instead, QWidget *owner)
 {
@@ -27,17 +21,6 @@ void tellFile(Program &program, const QString &what, const QString &instead, QWi
 }
 
 } // namespace
-
-QFont textFont(const clsNoteProps &note, QFont base)
-{
-    if (!note.FontName.isEmpty())
-        base.setFamily(note.FontName);
-    const float points = std::isfinite(note.FontSize) && note.FontSize > 0 ? note.FontSize : UsualPoints;
-    base.setPointSizeF(static_cast<qreal>(std::clamp(points, SmallestPoints, LargestPoints)));
-    base.setBold(note.FontBoldOn);
-    base.setItalic(note.FontItalicOn);
-    return base;
-}
 
 void dressPicture(Program &program, clsNoteProps &note, NoteBody &body, QWidget *owner)
 {
@@ -49,12 +32,14 @@ void dressPicture(Program &program, clsNoteProps &note, NoteBody &body, QWidget 
     if (found && body.setPicture(note.PicFile))
         return;
     body.setPicture({});
-    const QString what = QCoreApplication::translate("noteDressing", "The image ") + note.PicFile +
-                         (found ? QCoreApplication::translate("noteDressing", " could not be read.")
-                                : QCoreApplication::translate("noteDressing", " could not be found."));
+    const QString what = found ? QCoreApplication::translate("noteDressing", "The image %1 could not be read.")
+                               : QCoreApplication::translate("noteDressing", "The image %1 could not be found.");
     if (!found)
         note.BackPicOn = false;
-    tellFile(program, what, QCoreApplication::translate("noteDressing", "Loading quillet without image."), owner);
+    else if (std::exchange(program.unreadablePictures[note.Tag], note.PicFile) == note.PicFile)
+        return;
+    tellFile(program, what.arg(note.PicFile),
+             QCoreApplication::translate("noteDressing", "Loading quillet without image."), owner);
 }
 
 void checkSound(Program &program, clsNoteProps &note, QWidget *owner)
@@ -64,8 +49,7 @@ void checkSound(Program &program, clsNoteProps &note, QWidget *owner)
     note.SoundFileOn = false;
     note.FlashOn = true;
     tellFile(program,
-             QCoreApplication::translate("noteDressing", "The sound ") + note.SoundFile +
-                 QCoreApplication::translate("noteDressing", " could not be found."),
+             QCoreApplication::translate("noteDressing", "The sound %1 could not be found.").arg(note.SoundFile),
              QCoreApplication::translate("noteDressing", "Setting alarm flashing window only."), owner);
 }
 

@@ -4,8 +4,6 @@
 
 #include "model/clsNoteProps.h"
 
-#include <QFont>
-
 class NoteBody;
 class Program;
 class QWidget;
@@ -14,8 +12,6 @@ class QWidget;
 namespace noteDressing
 {
 
-/// The record's font over the base. Any stored size is kept; shown is one that can be drawn.
-QFont textFont(const clsNoteProps &note, QFont base);
 /// Puts the record's picture into the body. A missing file is told and switched off in the record, one that cannot be
 /// read is told and left out. Events run during the box: the note may be gone when this returns.
 void dressPicture(Program &program, clsNoteProps &note, NoteBody &body, QWidget *owner);

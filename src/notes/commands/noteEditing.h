@@ -17,6 +17,9 @@ namespace noteEditing
 bool mayEdit(Program &program, const clsNoteProps &note, QWidget *owner);
 /// Puts the clipboard's text in the place of the note's, undoable in the next edit. Nothing happens where the
 /// clipboard holds no text or the note is read-only.
-void paste(clsNoteProps &note, NoteBody &body);
+void paste(Program &program, clsNoteProps &note, NoteBody &body);
+
+/// Says that a text cannot be pasted into one that is being edited.
+void tellUnpastable(Program &program, QWidget *owner);
 
 } // namespace noteEditing

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "notes/commands/notePrinting.h"
 
-#include "platform/SystemPrinting.h"
-#include "platform/Prompts.h"
 #include "forms/Program.h"
+#include "platform/Printing.h"
+#include "platform/Prompts.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>

@@ -3,9 +3,10 @@
 #include "notes/commands/noteTitles.h"
 
 #include "drawing/textShortening.h"
+#include "forms/Program.h"
+#include "forms/modFormsSaving.h"
 #include "platform/Prompts.h"
 #include "security/frmEnterPwd.h"
-#include "forms/Program.h"
 
 #include <QCoreApplication>
 #include <QWidget>
@@ -41,7 +42,7 @@ bool take(Program &program, clsNoteProps &note, const QString &typed, bool insis
         return false;
     }
     note.TitleBarTitle = typed;
-    note.SaveTag = 1;
+    modForms::markChanged(program, note);
     return true;
 }
 

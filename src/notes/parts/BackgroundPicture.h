@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QString>
 #include <QWidget>
 
 /// A note's background picture, scaled to cover its place without distortion. A file is decoded once, no larger than
@@ -21,6 +22,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QPixmap m_picture;
-    QPixmap m_scaled;
+    void scaleTo(QSize size);
+
+    QString m_key;     ///< Of the file as it is.
+    QPixmap m_picture; ///< Shared by all notes that show the file.
+    QPixmap m_scaled;  ///< Shared by those of the same size.
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteBody.h"
 
-#include "forms/modForms.h"
+#include "forms/modFormsTexts.h"
 
 NoteBody::NoteBody(QWidget *note)
     : QObject(note), m_note(note), m_display(new QWidget(note)), m_text(new NoteText(m_display))
@@ -109,6 +109,7 @@ void NoteBody::makeTextBox()
     m_textBox = new NoteTextBox(m_editLayer);
     nameControls();
     connect(m_textBox, &NoteTextBox::left, this, &NoteBody::commit);
+    connect(m_textBox, &NoteTextBox::pasteRefused, this, &NoteBody::pasteRefused, Qt::QueuedConnection);
     dressTextBox();
     setGeometry(m_rect);
 }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "notes/parts/BackgroundPicture.h"
 #include "drawing/NoteInk.h"
+#include "notes/parts/BackgroundPicture.h"
 #include "notes/parts/NoteText.h"
 #include "notes/parts/NoteTextBox.h"
 
@@ -31,6 +31,9 @@ public:
     /// An empty path takes the picture away. False when the file cannot be shown.
     bool setPicture(const QString &path);
 
+    /// Scrolls the text that is shown; false while it is edited or hidden, and for keys that scroll nothing.
+    bool scrollByKey(const QKeyEvent &key) { return m_shown && !m_editing && m_text->scrollByKey(key); }
+
     void BeginTextEditing(const QString &text);
     bool isEditing() const { return m_editing; }
     /// Ends an edit that is under way and tells its text.
@@ -46,6 +49,8 @@ signals:
     void textPressed(Qt::MouseButton button, QPoint globalPosition);
     void editingChanged(bool editing);
     void committed(const QString &text);
+    /// What was pasted into the edit could not be laid out in time.
+    void pasteRefused();
 
 private:
     void nameControls();

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteText.h"
 
-#include "forms/modForms.h"
+#include "forms/modFormsTexts.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextLayout>
@@ -21,6 +22,9 @@ constexpr qsizetype SpareCharacters = 4096;
 constexpr int StepsPerNotch = 120;
 constexpr int LinesPerNotch = 3;
 constexpr int LastReachable = 20'000;
+constexpr QSizeF MoreMark(4, 9);
+constexpr qreal MoreMarkBottom = 20; ///< From the lower edge: above the grip of the NoteStack.
+constexpr float MoreMarkOpacity = 0.6F;
 
 bool endsParagraph(QChar c)
 {
@@ -123,6 +127,24 @@ void NoteText::paintEvent(QPaintEvent *)
         if (top < height() && top + paragraph.height > -Air.top())
             paragraph.layout->draw(&painter, origin + QPointF(0, paragraph.top));
     }
+    // Half a pixel may be left of where it is scrolled to.
+    if (!m_complete || m_height - m_scroll > visibleHeight() + 1)
+        paintMoreMark(painter);
+}
+
+/// In the margin, where no letter comes.
+void NoteText::paintMoreMark(QPainter &painter) const
+{
+    QColor ink = m_ink;
+    ink.setAlphaF(MoreMarkOpacity);
+    painter.setClipping(false);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const qreal x = width() - 3.5;
+    const qreal bottom = qMax(qMin(height() - 2.0, MoreMark.height() + 1), height() - MoreMarkBottom) + 0.5;
+    const qreal half = MoreMark.width() / 2;
+    painter.drawLine(QPointF(x, bottom - MoreMark.height()), QPointF(x, bottom));
+    painter.drawPolyline(QPolygonF{{x - half, bottom - half}, {x, bottom}, {x + half, bottom - half}});
 }
 
 void NoteText::resizeEvent(QResizeEvent *event)
@@ -172,13 +194,17 @@ qreal NoteText::topOfLine(int line)
     }
 }
 
+qreal NoteText::visibleHeight() const
+{
+    return height() - Air.top() - Air.bottom() - 1;
+}
+
 void NoteText::scrollToLine(int line)
 {
     // As far as the text box goes, to a pixel.
-    const qreal visible = height() - Air.top() - Air.bottom() - 1;
     const qreal top = topOfLine(qMax(0, line));
     layOutTo(top + height());
-    const qreal lowest = qMax(0.0, m_height - visible);
+    const qreal lowest = qMax(0.0, m_height - visibleHeight());
     m_firstLine = top <= lowest ? qMax(0, line) : linesAbove(lowest);
     m_scroll = std::round(topOfLine(m_firstLine));
     update();
@@ -220,4 +246,35 @@ void NoteText::wheelEvent(QWheelEvent *event)
     m_turned -= lines * StepsPerNotch;
     if (lines != 0)
         scrollToLine(m_firstLine - lines);
+}
+
+bool NoteText::scrollByKey(const QKeyEvent &key)
+{
+    const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    const bool toAnEnd = key.key() == Qt::Key_Home || key.key() == Qt::Key_End;
+    if (modifiers != Qt::NoModifier && !(toAnEnd && modifiers == Qt::ControlModifier))
+        return false;
+    const int page = qMax(1, static_cast<int>(visibleHeight() / QFontMetricsF(font()).lineSpacing()) - 1);
+    switch (key.key()) {
+    case Qt::Key_Up:
+        scrollToLine(m_firstLine - 1);
+        return true;
+    case Qt::Key_Down:
+        scrollToLine(m_firstLine + 1);
+        return true;
+    case Qt::Key_PageUp:
+        scrollToLine(m_firstLine - page);
+        return true;
+    case Qt::Key_PageDown:
+        scrollToLine(m_firstLine + page);
+        return true;
+    case Qt::Key_Home:
+        scrollToLine(0);
+        return true;
+    case Qt::Key_End:
+        scrollToLine(m_firstLine + LastReachable);
+        return true;
+    default:
+        return false;
+    }
 }

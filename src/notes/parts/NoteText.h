@@ -18,7 +18,7 @@ struct TextPlace
 
 /// Shows a note's text the way its text box would, letter for letter at the same place, without the cost of a text
 /// box. The caption is the text as modForms::DoubleFirstAmpersand gives it. Only what is visible is laid out, however
-/// long the text is; the wheel scrolls.
+/// long the text is; the wheel scrolls. A small arrow in the margin tells that there is more below.
 class NoteText final : public QLabel
 {
     Q_OBJECT
@@ -34,6 +34,9 @@ public:
     /// Scrolls so that the line is at the top, or as far as the text goes; to the beginning for a line so far down
     /// that it would take its time.
     void scrollTo(TextPlace place);
+    /// Scrolls by an arrow, Page Up, Page Down, Home or End; false for any other key. In a very long text one press
+    /// of End goes only as far as does not take its time.
+    bool scrollByKey(const QKeyEvent &key);
     /// Air around the text, the same for the text box.
     static QMargins air();
 
@@ -68,6 +71,8 @@ private:
     /// Where the line begins; the end of the text for one behind it.
     qreal topOfLine(int line);
     void scrollToLine(int line);
+    qreal visibleHeight() const;
+    void paintMoreMark(QPainter &painter) const;
 
     QString m_shown;
     QColor m_ink = Qt::black;

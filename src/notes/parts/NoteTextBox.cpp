@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteTextBox.h"
 
+#include "notes/parts/endlessRuns.h"
 #include "notes/parts/focusLoss.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -65,6 +67,18 @@ void NoteTextBox::scrollTo(TextPlace place)
     const QTextBlock block = document()->findBlockByNumber(place.paragraph);
     if (block.isValid())
         verticalScrollBar()->setValue(block.firstLineNumber() + place.line);
+}
+
+void NoteTextBox::insertFromMimeData(const QMimeData *source)
+{
+    const QTextCursor cursor = textCursor();
+    const QString paragraphs = cursor.block().text();
+    // With what stands beside the caret: a run may grow bit by bit.
+    if (endlessRuns::isIn(paragraphs.left(cursor.positionInBlock()) + source->text()) ||
+        endlessRuns::isIn(source->text() + paragraphs.mid(cursor.positionInBlock())))
+        emit pasteRefused();
+    else
+        QPlainTextEdit::insertFromMimeData(source);
 }
 
 void NoteTextBox::focusOutEvent(QFocusEvent *event)

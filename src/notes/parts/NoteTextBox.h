@@ -27,8 +27,11 @@ public:
 signals:
     /// The box lost the focus to something other than its own menu, or Escape was pressed.
     void left();
+    /// What was pasted or dropped has a run of characters that it could not lay out in time; nothing was inserted.
+    void pasteRefused();
 
 protected:
+    void insertFromMimeData(const QMimeData *source) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

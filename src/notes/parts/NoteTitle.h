@@ -54,6 +54,8 @@ public:
     /// Opens the editor with the text, all of it selected.
     void beginEditing(const QString &text);
     bool isEditing() const { return m_editing; }
+    /// While it is edited: what is typed.
+    QString typedTitle() const { return m_editing ? m_editor->text() : QString(); }
     /// It is edited, and nothing but blanks are typed.
     bool isBlank() const { return m_editing && m_editor->text().trimmed().isEmpty(); }
     /// Ends the edit as if the editor had been left.

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/commands/LiveNote.h"
+
+#include "controls/noteFont.h"
+#include "forms/modFormsSaving.h"
+#include "notes/commands/noteEditing.h"
+#include "security/noteLocks.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+LiveNote::LiveNote(Program &program, QWidget *paper)
+    : body(paper), alarm(program, [this] { return &record; }), m_program(program)
+{
+    connect(&body, &NoteBody::committed, this, &LiveNote::textCommitted);
+    connect(&body, &NoteBody::pasteRefused, this,
+            [this, paper] { noteEditing::tellUnpastable(m_program, paper->window()); });
+}
+
+void LiveNote::take(clsNoteProps note, Lid lid)
+{
+    record = std::move(note);
+    locked = lid == Lid::Shut || noteLocks::opensLocked(record);
+}
+
+void LiveNote::markChanged()
+{
+    modForms::markChanged(m_program, record);
+}
+
+void LiveNote::textCommitted(const QString &text)
+{
+    if (!locked)
+        record.Data = text;
+    markChanged();
+}
+
+void LiveNote::takeTyped()
+{
+    if (!body.isEditing() || locked)
+        return;
+    const QString typed = body.typedText();
+    if (typed == record.Data)
+        return;
+    record.Data = typed;
+    markChanged();
+}
+
+void LiveNote::dress(const QFont &base)
+{
+    ink = NoteInk::from(record.BackColor, record.ForeColor);
+    body.setLook(noteFont::of(record, base), ink);
+    if (!locked)
+        body.setText(record.Data);
+}
+
+void LiveNote::setLocked(bool on)
+{
+    if (on)
+        body.commit();
+    locked = on;
+    if (!on)
+        return body.setText(record.Data);
+    body.forgetText();
+    // What was selected in it can be pasted by the middle button.
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (clipboard->ownsSelection() && record.Data.contains(clipboard->text(QClipboard::Selection)))
+        clipboard->clear(QClipboard::Selection);
+}
+
+void LiveNote::stop()
+{
+    alarm.Destroy();
+    body.setShown(false);
+}

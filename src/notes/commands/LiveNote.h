@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "alarms/NoteAlarm.h"
+#include "drawing/NoteInk.h"
+#include "forms/NoteHolder.h"
+#include "model/clsNoteProps.h"
+#include "notes/parts/NoteBody.h"
+
+#include <memory>
+
+class Program;
+
+/// One note as it lives in a window: its record, what is shown of it, and its alarm. The desktop note holds one, the
+/// NoteStack many. It stays where it is in memory until it leaves its window, and goes by deleteLater.
+class LiveNote final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `paper` is what the body lies on.
+    LiveNote(Program &program, QWidget *paper);
+
+    clsNoteProps record;
+    NoteInk ink;
+    NoteBody body;
+    NoteAlarm alarm;
+    bool locked = false; ///< Nothing of the text is in any widget.
+
+    qint32 tag() const { return record.Tag; }
+    /// Takes the record over. A note that opens locked is locked before anything of it is shown: boxes may open while
+    /// it is dressed.
+    void take(clsNoteProps note, Lid lid);
+    void markChanged();
+    /// Puts what is being typed into the record; the editor stays as it is.
+    void takeTyped();
+    /// Ink, font and text as the record has them; `base` is the font of the window.
+    void dress(const QFont &base);
+    void setLocked(bool on);
+    /// Ends what the note has running; said when it leaves its window.
+    void stop();
+
+private:
+    void textCommitted(const QString &text);
+
+    Program &m_program;
+};

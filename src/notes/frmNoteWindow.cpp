@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "notes/frmNote.h"
+
+#include "forms/Program.h"
+#include "forms/modForms.h"
+#include "notes/ResizeHandles.h"
+#include "notes/commands/NoteMenus.h"
+#include "notes/parts/LockOverlay.h"
+#include "notes/parts/NoteTitle.h"
+#include "platform/windowStacking.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+
+// What the window system tells the desktop note, and what it has of its own: place, size, rolling, stacking.
+
+void frmNote::LayoutNote()
+{
+    const NoteLayout layout =
+        NoteLayout::of(size(), {m_note.record.ToolBarOn, m_note.locked,
+                                m_program.twips.toPixels(static_cast<float>(NoteLayout::IconMargin))});
+    m_titleBar->setGeometry(layout.titleBar);
+    m_menu->setGeometry(layout.menu);
+    m_exit->setGeometry(layout.exit);
+    m_minimize->setGeometry(layout.minimize);
+    m_title->setGeometry(layout.title);
+    m_title->setVisible(!layout.title.isEmpty());
+    m_toolbar->layOut(layout);
+    m_note.body.setGeometry(layout.body);
+    m_note.body.setShown(!layout.body.isEmpty() && !m_note.locked);
+    m_overlay->setGeometry(layout.password);
+    m_handles->layOut(layout);
+    m_handles->raise();
+    update();
+}
+
+void frmNote::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_place.growBack())
+        return;
+    LayoutNote();
+    m_place.changed();
+}
+
+void frmNote::moveEvent(QMoveEvent *event)
+{
+    QWidget::moveEvent(event);
+    m_place.changed();
+}
+
+void frmNote::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    m_place.settle();
+}
+
+void frmNote::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { windowStacking::skipTaskBar(*this); }, Qt::QueuedConnection);
+}
+
+void frmNote::closeEvent(QCloseEvent *event)
+{
+    // A note is deleted on purpose or goes with the program; a window manager's close does neither.
+    event->setAccepted(m_closing);
+}
+
+void frmNote::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+    EndTextEditing();
+}
+
+void frmNote::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        m_menus->openLong();
+}
+
+void frmNote::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_F2)
+        run(NoteCommand::Title);
+    else if (key == Qt::Key_F1)
+        run(NoteCommand::Help);
+    else if (key == Qt::Key_F6)
+        modForms::activateNext(m_program, *this);
+    else if (key == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        m_menus->openLong();
+    else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_note.locked)
+        action().unlock();
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        action().editText();
+    else if (!m_note.body.scrollByKey(*event))
+        QWidget::keyPressEvent(event);
+}
+
+void frmNote::runOwn(NoteCommand command)
+{
+    if (command == NoteCommand::Toolbar)
+        ToggleToolbar();
+    else if (command == NoteCommand::Scrolled)
+        scrollStep();
+    else if (command == NoteCommand::OnTop)
+        toggleOnTop();
+}
+
+void frmNote::startMove(QPoint globalPosition)
+{
+    EndTextEditing();
+    m_title->label().setCursor(m_program.pictures().cursor(QStringLiteral("handafter.ico")));
+    m_place.drag().press(WindowDrag::HitTest::Caption, globalPosition);
+}
+
+void frmNote::endMove()
+{
+    m_title->label().setCursor(m_program.pictures().cursor(QStringLiteral("handbefore.ico")));
+    m_place.endMove();
+}
+
+void frmNote::ScrollForm()
+{
+    m_note.record.FrmScrolledOn = false;
+    scrollStep();
+}
+
+void frmNote::scrollStep()
+{
+    m_note.body.commit();
+    m_place.roll();
+    m_handles->setMode(m_note.record.FrmScrolledOn, m_note.locked);
+    if (m_place.isReady())
+        SaveThisNote();
+}
+
+void frmNote::ToggleToolbar()
+{
+    m_place.toggleToolbar();
+    LayoutNote();
+    m_place.storeSize();
+    m_note.markChanged();
+}
+
+void frmNote::toggleOnTop()
+{
+    m_note.record.OnTopOn = !m_note.record.OnTopOn;
+    windowStacking::SetWindowOnTop(*this, m_note.record.OnTopOn);
+    m_note.markChanged();
+}

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "drawing/pictureFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray bytesOf(const QImage &picture, const char *format)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x"_s);
+    picture.save(path, format);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray bitmap(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    return bytesOf(picture, "BMP");
+}
+
+/// Four pixels in one run of equal ones, and the mark of the end.
+QByteArray packedBitmap()
+{
+    return QByteArray::fromHex("424d00000000000000003e000000"                                     // file
+                               "2800000004000000010000000100080001000000000000000000000000000000" // picture
+                               "0200000000000000"                                                 // colours used
+                               "0000ff00ffffff00"                                                 // colours
+                               "04010001");
+}
+
+/// A head that claims far more than the file holds.
+QByteArray bomb()
+{
+    QByteArray bytes = bitmap(4, 4);
+    bytes.replace(18, 8, QByteArray("\x30\x75\0\0\x30\x75\0\0", 8)); // 30000 x 30000
+    return bytes;
+}
+
+} // namespace
+
+class testPictureFile final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void reads_data();
+    void reads();
+    void foldersAndMissingFiles();
+};
+
+void testPictureFile::reads_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("shown");
+    const QByteArray svg("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+    QTest::newRow("bitmap") << bitmap(300, 200) << true;
+    QTest::newRow("one pixel") << bitmap(1, 1) << true;
+    QTest::newRow("bomb") << bomb() << false;
+    QTest::newRow("no head") << bitmap(300, 200).first(20) << false;
+    QTest::newRow("half a bitmap") << bitmap(300, 200).chopped(1) << false;
+    QTest::newRow("packed bitmap") << packedBitmap() << true;
+    QTest::newRow("half a packed bitmap") << packedBitmap().chopped(3) << false;
+    const QImage large = QImage::fromData(bitmap(300, 200));
+    const QByteArray jpeg = bytesOf(large, "JPG");
+    QTest::newRow("photograph") << jpeg << true;
+    QTest::newRow("photograph with a tail") << jpeg + QByteArray(5000, '\0') << true;
+    QTest::newRow("half a photograph") << jpeg.first(jpeg.size() * 3 / 4) << false;
+    QFile gif(QStringLiteral(TEST_RESOURCES "/images/menuup.gif"));
+    QVERIFY(gif.open(QIODevice::ReadOnly));
+    const QByteArray animation = gif.readAll();
+    QTest::newRow("gif") << animation << true;
+    QTest::newRow("half a gif") << animation.first(animation.size() * 3 / 4) << false;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("text") << QByteArray("Not a picture at all.") << false;
+    QTest::newRow("a kind that is not allowed") << svg << false;
+    QTest::newRow("another") << bytesOf(QImage(9, 9, QImage::Format_RGB32), "PNG") << false;
+}
+
+void testPictureFile::reads()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, shown);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.bmp"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    QCOMPARE(!pictureFile::read(file.fileName(), {100, 100}).isNull(), shown);
+}
+
+void testPictureFile::foldersAndMissingFiles()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"a.bmp"_s));
+    QVERIFY(pictureFile::read(folder.filePath(u"a.bmp"_s), {9, 9}).isNull());
+    QVERIFY(pictureFile::read(folder.filePath(u"b.bmp"_s), {9, 9}).isNull());
+}
+
+QTEST_MAIN(testPictureFile)
+#include "testPictureFile.moc"

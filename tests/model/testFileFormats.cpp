@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "model/DataImage.h"
+#include "model/DataSurvey.h"
+#include "model/modFileIO.h"
+#include "model/modStreams.h"
+#include "model/windowState.h"
+#include "samples.h"
+
+#include <QDir>
+#include <QObject>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The bytes of the dump under a heading of docs/file-formats.md.
+QByteArray documented(const char *file)
+{
+    const QByteArray page = contents(QStringLiteral(TEST_DATA "/../../docs/file-formats.md"));
+    const qsizetype begin = page.indexOf("```\n", page.indexOf(QByteArray("\n## ") + file)) + 4;
+    QByteArray bytes;
+    for (const QByteArray &line : page.sliced(begin, page.indexOf("```", begin) - begin).split('\n'))
+        bytes += QByteArray::fromHex(line.mid(10, 47));
+    return bytes;
+}
+
+} // namespace
+
+/// What the page on the program's files shows is what the program reads and writes.
+class testFileFormats final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void notes();
+    void options();
+    void recentLists();
+    void window();
+};
+
+void testFileFormats::notes()
+{
+    const QByteArray file = documented("quillets.dat");
+    const DataSurvey survey = surveyDataFile(file, {}, 100);
+    QVERIFY(!survey.isDamaged && survey.notes.size() == 1);
+    const clsNoteProps &note = survey.notes[0].note;
+    QCOMPARE(note.Data, u"2 l milk"_s);
+    QVERIFY(note.FlashOn && note.ToolBarOn && note.FrmHeight == 1440 && note.FrmWidth == 2160);
+    DataImage image;
+    QVERIFY(image.keepLoaded(1, modStreams::EncodeNoteRecord(note)));
+    QCOMPARE(image.bytes(), file);
+}
+
+void testFileFormats::options()
+{
+    const QByteArray file = documented("quillets.set");
+    clsprogramoptions options;
+    modStreams::ParseOptionsText(file, options);
+    QVERIFY(options.NameName == u"Zo\u00EB" && options.FontSize == 8.25F && options.ListeningPort == 1420);
+    QCOMPARE(modStreams::BuildOptionsText(options), file);
+}
+
+void testFileFormats::recentLists()
+{
+    const QTemporaryDir home;
+    const ProgramPaths paths = ProgramPaths::under({}, home.path());
+    QVERIFY(modFileIO::prepareDataFolder(paths).ok());
+    setContents(paths.MiscFile, documented("misc.set"));
+    const QStringList email = modFileIO::LoadRecentList(paths, RecentList::Email);
+    QCOMPARE(email, QStringList({u"ann@example.com"_s, u"bob@example.org"_s}));
+    QVERIFY(modFileIO::SaveRecentList(paths, RecentList::Email, email, 2).ok());
+    QCOMPARE(contents(paths.MiscFile), documented("misc.set"));
+}
+
+void testFileFormats::window()
+{
+    const QByteArray file = documented("window.set");
+    const WindowState state = windowState::parse(file);
+    QVERIFY(state.isShown && state.chosen == 0 && state.order.size() == 1 && state.geometry.size() == 66);
+    QCOMPARE(windowState::text(state), file);
+}
+
+QTEST_APPLESS_MAIN(testFileFormats)
+#include "testFileFormats.moc"
