@@ -4,6 +4,7 @@
 #include "model/modFileIO.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/parts/NoteText.h"
+#include "platform/SystemPrinting.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -105,12 +106,15 @@ void printFiveMegabytes(benchmark::State &run)
     const QFont font(QStringLiteral("DejaVu Sans"), 9);
     notePrinting::Sheet sheet;
     sheet.textFont = font;
+    sheet.text = text;
+    sheet.lineEnd = notePrinting::LineEnd::BehindLimit;
+    SystemPrinting printing;
     for (auto _ : run) {
         QBuffer pages;
         pages.open(QIODevice::WriteOnly);
         QPdfWriter paper(&pages);
-        sheet.lines = notePrinting::SpliceStringToPrint(text, font, 15);
-        if (!notePrinting::printOn(paper, sheet))
+        const auto printed = notePrinting::printOn(paper, printing, sheet, 15, [](qsizetype) { return true; });
+        if (printed != notePrinting::Printed::Whole)
             run.SkipWithError("not printed");
     }
 }

@@ -5,11 +5,10 @@
 #include "forms/Form.h"
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
-#include "forms/frmStatus.h"
+#include "forms/Progress.h"
 #include "platform/Prompts.h"
 
-#include <QApplication>
-#include <QPointer>
+#include <QCoreApplication>
 
 namespace modForms
 {
@@ -46,50 +45,6 @@ void updateRecords(const Program &program)
     for (NoteHolder *holder : program.forms.holders())
         holder->updateRecords();
 }
-
-/// The progress window of one long task. Whatever closes the windows of the program ends the task too.
-class Progress
-{
-public:
-    Progress(Program &program, const QString &caption, const QString &text, int total)
-        : m_program(program), m_before(QApplication::activeWindow()), m_status(new frmStatus(program))
-    {
-        m_status->setWindowTitle(caption);
-        m_status->Initialize(text, total);
-        m_status->show();
-    }
-    Progress(const Progress &) = delete;
-    Progress &operator=(const Progress &) = delete;
-    ~Progress() { close(); }
-
-    /// Lets events run; false when the task is to end.
-    bool goesOn()
-    {
-        QCoreApplication::processEvents();
-        return isThere() && !m_status->Cancelled && !m_program.Exiting;
-    }
-    void setValue(int value)
-    {
-        if (isThere())
-            m_status->setValue(value);
-    }
-    void close()
-    {
-        if (!isThere())
-            return;
-        m_status->unload();
-        // Before an editor takes the loss of the focus for the end of its edit.
-        if (m_before != nullptr && m_before->isVisible())
-            m_before->activateWindow();
-    }
-
-private:
-    bool isThere() const { return m_status != nullptr && !m_status->isUnloaded(); }
-
-    Program &m_program;
-    QPointer<QWidget> m_before; ///< The window that was active.
-    QPointer<frmStatus> m_status;
-};
 
 void keepOrder(Program &program)
 {

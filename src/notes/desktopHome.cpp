@@ -62,7 +62,7 @@ const HomeRules DesktopHome{
                        QT_TRANSLATE_NOOP("NoteAction", "Deletion Error")},
     .refusedDeletion = {QT_TRANSLATE_NOOP("NoteAction", "Invalid authentication.  Quillet deletion failed."),
                         QT_TRANSLATE_NOOP("NoteAction", "Deletion failed")},
-    .linesOnPaper = notePrinting::SpliceStringToPrint,
+    .lineEnd = notePrinting::LineEnd::BehindLimit,
     .move =
         [](Program &program, const clsNoteProps &record, Lid lid) {
             noteMoves::settle(program, noteMoves::intoNoteStack(program, record, NoteCreateMode::Move, lid));

@@ -59,6 +59,6 @@ const HomeRules StackHome{
                        QT_TRANSLATE_NOOP("NoteAction", "Deletion Error")},
     .refusedDeletion = {QT_TRANSLATE_NOOP("NoteAction", "Authentication invalid.  Deletion failed."),
                         QT_TRANSLATE_NOOP("NoteAction", "Deletion Failed")},
-    .linesOnPaper = notePrinting::wrappedBeforeLimit,
+    .lineEnd = notePrinting::LineEnd::BeforeLimit,
     .move = modCreateNote::moveToDesktop,
 };

@@ -21,4 +21,6 @@ public:
     /// Paper of the default printer, without a dialog and with the whole sheet to draw on; null when there is no
     /// printer. `jobName` is what a queue shows.
     virtual std::unique_ptr<QPagedPaintDevice> paper(const QString &jobName) = 0;
+    /// Gives up what was drawn on that paper, as far as the system takes pages back; before the drawing is ended.
+    virtual void giveUp(QPagedPaintDevice &paper) = 0;
 };

@@ -16,3 +16,9 @@ std::unique_ptr<QPagedPaintDevice> SystemPrinting::paper(const QString &jobName)
     printer->setFullPage(true);
     return printer;
 }
+
+void SystemPrinting::giveUp(QPagedPaintDevice &paper)
+{
+    // Where this is false, as with CUPS of this Qt, the pages that are ready come out.
+    static_cast<void>(static_cast<QPrinter &>(paper).abort());
+}

@@ -9,4 +9,5 @@ class SystemPrinting final : public Printing
 {
 public:
     std::unique_ptr<QPagedPaintDevice> paper(const QString &jobName) override;
+    void giveUp(QPagedPaintDevice &paper) override;
 };

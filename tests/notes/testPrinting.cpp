@@ -3,7 +3,9 @@
 #include "notes/NoteFixture.h"
 #include "notes/commands/notePrinting.h"
 
+#include <QApplication>
 #include <QFontDatabase>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using Answer = Prompts::Answer;
@@ -17,6 +19,9 @@ private slots:
     void cleanup();
     void pages_data();
     void pages();
+    void lines_data();
+    void lines();
+    void longOneCanBeCanceled();
     void withoutAPrinter();
 
 private:
@@ -72,6 +77,57 @@ void testPrinting::pages()
     // Where the system has emoji.
     if (QFontDatabase::families().contains(u"Noto Color Emoji"))
         QCOMPARE(m_fixture->test.printing.hasPictures(), text.contains(u"\U0001F375"));
+}
+
+void testPrinting::lines_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("behind");
+    QTest::addColumn<QStringList>("before");
+    const QString wide(2000, u'w');
+    QTest::newRow("nothing") << QString() << QStringList() << QStringList();
+    QTest::newRow("line feeds") << u"a\nb\r\n\r\nc\r"_s << QStringList{u"ab"_s, {}, u"c"_s}
+                                << QStringList{u"ab"_s, {}, u"c"_s};
+    QTest::newRow("wide word first") << wide + u" b c"_s << QStringList{wide + u" "_s, u"b c"_s}
+                                     << QStringList{wide + u" "_s, u"b c"_s};
+    QTest::newRow("wide word last") << u"a b\t"_s + wide << QStringList{u"a b\t"_s + wide}
+                                    << QStringList{u"a b\t"_s, wide};
+    QTest::newRow("wide word between") << u"a "_s + wide + u" b\rc"_s
+                                       << QStringList{u"a "_s + wide + u" "_s, u"b"_s, u"c"_s}
+                                       << QStringList{u"a "_s, wide + u" "_s, u"b"_s, u"c"_s};
+    QTest::newRow("blank at the end of a wide line")
+        << wide + u" \rc"_s << QStringList{wide + u" "_s, {}, u"c"_s} << QStringList{wide + u" "_s, {}, u"c"_s};
+}
+
+void testPrinting::lines()
+{
+    QFETCH(QString, text);
+    const auto all = [&text](notePrinting::LineEnd end) {
+        notePrinting::LinesOnPaper lines(text, QFont(), 15, end);
+        QStringList found;
+        while (const auto line = lines.next())
+            found.append(*line);
+        return found;
+    };
+    QTEST(all(notePrinting::LineEnd::BehindLimit), "behind");
+    QTEST(all(notePrinting::LineEnd::BeforeLimit), "before");
+}
+
+void testPrinting::longOneCanBeCanceled()
+{
+    frmNote *note = m_fixture->create(u"many words on many lines\r\n"_s.repeated(400'000));
+    QTimer look;
+    connect(&look, &QTimer::timeout, note, [note, &look] {
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (window->objectName() == u"frmStatus"_s && window->isVisible()) {
+                look.stop();
+                note->unload();
+                QTest::keyClick(window, Qt::Key_Escape);
+            }
+    });
+    look.start(10);
+    NoteFixture::choose(*note, "mnuPrint0", false);
+    QVERIFY(m_fixture->test.printing.gaveUp);
 }
 
 void testPrinting::withoutAPrinter()

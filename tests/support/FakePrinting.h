@@ -13,7 +13,9 @@ class FakePrinting final : public Printing
 public:
     bool hasPrinter = true;
     QString lastJob;
+    bool gaveUp = false;
 
+    void giveUp(QPagedPaintDevice &) override { gaveUp = true; }
     std::unique_ptr<QPagedPaintDevice> paper(const QString &jobName) override
     {
         lastJob = jobName;

@@ -159,8 +159,7 @@ void NoteAction::print() const
     const QFont font = noteFont::of(now.record, host()->hostWindow().font());
     NoteTitle &title = host()->titleEditor();
     notePrinting::printSheet(m_program,
-                             {title.shownTitle(), title.label().font().family(),
-                              m_home.linesOnPaper(now.record.Data, font, m_program.twips.perPixel()),
+                             {title.shownTitle(), title.label().font().family(), now.record.Data, m_home.lineEnd,
                               now.record.DateCreated, font},
                              m_owner);
 }

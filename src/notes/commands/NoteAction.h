@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/NoteHolder.h"
+#include "notes/commands/LinesOnPaper.h"
 #include "notes/commands/NoteMenu.h"
 
 #include <QPointer>
@@ -35,8 +36,7 @@ struct HomeRules
     Said refusedMove;
     Said lockedDeletion;
     Said refusedDeletion;
-    /// The lines of a text on paper.
-    QStringList (*linesOnPaper)(const QString &text, const QFont &font, float twipsPerPixel);
+    notePrinting::LineEnd lineEnd; ///< Of lines that are too wide for the paper.
     /// Puts the note into the other home.
     void (*move)(Program &program, const clsNoteProps &record, Lid lid);
 };

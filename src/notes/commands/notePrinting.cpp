@@ -3,6 +3,7 @@
 #include "notes/commands/notePrinting.h"
 
 #include "forms/Program.h"
+#include "forms/Progress.h"
 #include "platform/Printing.h"
 #include "platform/Prompts.h"
 
@@ -12,12 +13,15 @@
 #include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPointer>
 #include <QRawFont>
 #include <QTextLayout>
 #include <QTextOption>
 
 #include <algorithm>
 #include <array>
+
+using namespace std::chrono_literals;
 
 namespace notePrinting
 {
@@ -28,13 +32,10 @@ constexpr qreal TwipsPerInch = 1440;
 constexpr qreal Margin = 720; ///< Twips, also between title, text and date.
 constexpr qreal TitlePoints = 2;
 constexpr qreal SmallestPoints = 1;
-constexpr QChar FirstPicture(0x2000);    ///< No character below is a picture by itself.
+constexpr QChar FirstPicture(0x2000); ///< No character below is a picture by itself.
+constexpr int LinesBetweenLooks = 100;
+constexpr auto Patience = 500ms;         ///< Before the progress is shown.
 constexpr qreal MostPicturePixels = 256; ///< Of the side of one character.
-
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
 
 /// Told by its tables: a font that is asked for the outline of a picture draws none of its pictures any more.
 bool hasPictures(const QRawFont &font)
@@ -126,17 +127,22 @@ QFont headFont(const Sheet &sheet, qreal points)
     return font;
 }
 
-bool printAll(Pages &pages, const Sheet &sheet)
+Printed printAll(Pages &pages, const Sheet &sheet, LinesOnPaper lines, const std::function<bool(qsizetype)> &goesOn)
 {
     const qreal points = sheet.textFont.pointSizeF();
     if (!pages.print(sheet.title, headFont(sheet, points + TitlePoints)))
-        return false;
+        return Printed::Failed;
     pages.space(Margin);
-    for (const QString &line : sheet.lines)
-        if (!pages.print(line, sheet.textFont))
-            return false;
+    int count = 0;
+    while (const auto line = lines.next()) {
+        if (!pages.print(*line, sheet.textFont))
+            return Printed::Failed;
+        if (++count % LinesBetweenLooks == 0 && !goesOn(lines.done()))
+            return Printed::Canceled;
+    }
     pages.space(Margin);
-    return pages.print(sheet.date, headFont(sheet, points - TitlePoints)) && pages.ended();
+    return pages.print(sheet.date, headFont(sheet, points - TitlePoints)) && pages.ended() ? Printed::Whole
+                                                                                           : Printed::Failed;
 }
 
 void tell(Program &program, const QString &text, QWidget *owner)
@@ -149,70 +155,47 @@ void tell(Program &program, const QString &text, QWidget *owner)
 
 QStringList SpliceStringToPrint(const QString &text, const QFont &font, float twipsPerPixel)
 {
-    const QFontMetricsF metrics(font);
-    const auto limit = static_cast<qreal>(LineWidth / twipsPerPixel);
-    QStringList lines;
-    QString line;
-    for (const QChar c : text) {
-        if (c == u'\n')
-            continue;
-        if (c != u'\r')
-            line += c;
-        if (c == u'\r' || (isBlank(c) && metrics.horizontalAdvance(line) > limit))
-            lines.append(std::exchange(line, {}));
-    }
-    if (!line.isEmpty())
-        lines.append(line);
-    return lines;
+    LinesOnPaper lines(text, font, twipsPerPixel, LineEnd::BehindLimit);
+    QStringList all;
+    while (auto line = lines.next())
+        all.append(*line);
+    return all;
 }
 
-QStringList wrappedBeforeLimit(const QString &text, const QFont &font, float twipsPerPixel)
-{
-    const QFontMetricsF metrics(font);
-    const auto limit = static_cast<qreal>(LineWidth / twipsPerPixel);
-    QStringList lines;
-    QString line;
-    qsizetype lastBlank = 0; // Length of the line up to and with its last blank.
-    const auto breakLine = [&] {
-        if (lastBlank == 0 || metrics.horizontalAdvance(line.trimmed()) <= limit)
-            return;
-        lines.append(line.left(lastBlank));
-        line.remove(0, lastBlank);
-        lastBlank = 0;
-    };
-    for (const QChar c : text) {
-        if (isBlank(c) || c == u'\r')
-            breakLine();
-        if (c == u'\r')
-            lines.append(std::exchange(line, {}));
-        else if (c != u'\n')
-            line += c;
-        if (c == u'\r' || isBlank(c))
-            lastBlank = line.size();
-    }
-    breakLine();
-    if (!line.isEmpty())
-        lines.append(line);
-    return lines;
-}
-
-bool printOn(QPagedPaintDevice &paper, const Sheet &sheet)
+Printed printOn(QPagedPaintDevice &paper, Printing &printing, const Sheet &sheet, float twipsPerPixel,
+                const std::function<bool(qsizetype)> &goesOn)
 {
     Pages pages(paper);
-    return pages.begun() && printAll(pages, sheet);
+    if (!pages.begun())
+        return Printed::Failed;
+    const LinesOnPaper lines(sheet.text, sheet.textFont, twipsPerPixel, sheet.lineEnd);
+    const Printed printed = printAll(pages, sheet, lines, goesOn);
+    if (printed == Printed::Canceled)
+        printing.giveUp(paper);
+    return printed;
 }
 
 void printSheet(Program &program, const Sheet &sheet, QWidget *owner)
 {
+    const QPointer<QWidget> window(owner);
     const auto paper = program.printing().paper(sheet.title);
     if (paper == nullptr) {
         tell(program, QCoreApplication::translate("notePrinting", "There is no printer.  The Quillet was not printed."),
              owner);
         return;
     }
-    if (!printOn(*paper, sheet))
+    Progress progress(program, QCoreApplication::translate("notePrinting", "Printing ... - Quillets"),
+                      QCoreApplication::translate("notePrinting", "Printing the Quillet ..."),
+                      static_cast<int>(sheet.text.size()), Patience);
+    const auto printed =
+        printOn(*paper, program.printing(), sheet, program.twips.perPixel(), [&progress](qsizetype done) {
+            progress.setValue(static_cast<int>(done));
+            return progress.goesOn();
+        });
+    progress.close();
+    if (printed == Printed::Failed)
         tell(program, QCoreApplication::translate("notePrinting", "The printer failed.  The Quillet was not printed."),
-             owner);
+             window);
 }
 
 } // namespace notePrinting

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/clsNoteProps.h"
+#include "notes/commands/LinesOnPaper.h"
 
 #include <QFont>
 #include <QStringList>
 
+#include <functional>
+
+class Printing;
 class Program;
 class QPagedPaintDevice;
 class QWidget;
@@ -15,27 +18,33 @@ class QWidget;
 namespace notePrinting
 {
 
-inline constexpr float LineWidth = 8600.0F; ///< Twips, not scaled.
-
 /// A note as it goes to the paper.
 struct Sheet
 {
     QString title;       ///< As shown.
     QString titleFamily; ///< Of the title and of the date.
-    QStringList lines;
+    QString text;
+    LineEnd lineEnd;
     QString date;
     QFont textFont;
 };
 
-/// Lines of at most LineWidth, measured on the display: a line ends after the first blank or tab behind the limit, at
-/// a carriage return, and nowhere else. Line feeds are dropped. Linear in the text.
-QStringList SpliceStringToPrint(const QString &text, const QFont &font, float twipsPerPixel);
-/// The same for lines that end at their last blank or tab before the limit.
-QStringList wrappedBeforeLimit(const QString &text, const QFont &font, float twipsPerPixel);
+enum class Printed : quint8
+{
+    Whole,
+    Canceled,
+    Failed
+};
 
-/// Prints on this paper, from its first page on; false when it failed.
-bool printOn(QPagedPaintDevice &paper, const Sheet &sheet);
-/// Prints on the default printer; without one, or when it fails, a box says so.
+/// All lines that end behind the limit.
+QStringList SpliceStringToPrint(const QString &text, const QFont &font, float twipsPerPixel);
+
+/// Prints on this paper, from its first page on. `goesOn` is asked now and then with the characters of the text that
+/// are printed; false ends it, and the printing gives up what it has.
+Printed printOn(QPagedPaintDevice &paper, Printing &printing, const Sheet &sheet, float twipsPerPixel,
+                const std::function<bool(qsizetype)> &goesOn);
+/// Prints on the default printer; what takes long shows how far it is and can be canceled. Without a printer, or when
+/// it fails, a box says so. Events may run.
 void printSheet(Program &program, const Sheet &sheet, QWidget *owner);
 
 } // namespace notePrinting
