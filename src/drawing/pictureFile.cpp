@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/pictureFile.h"
 
+#include "drawing/metafile.h"
+
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -54,6 +57,21 @@ QSize decodedSize(QSize size, QSize cover)
     return covering.width() < size.width() ? covering.expandedTo({1, 1}) : size;
 }
 
+/// False for what is of no size or of too much.
+bool isBounded(QSize size)
+{
+    return !size.isEmpty() && static_cast<qint64>(size.width()) * size.height() <= MostPixels;
+}
+
+QImage readMetafile(const QString &path, const QByteArray &kind, QSize cover)
+{
+    QByteArray png = metafile::toPng(path, kind, qMax(cover.width(), 1));
+    QBuffer buffer(&png);
+    QImageReader reader(&buffer, "png");
+    reader.setAllocationLimit(MostMegabytes);
+    return isBounded(reader.size()) ? reader.read() : QImage();
+}
+
 } // namespace
 
 QImage read(const QString &path, QSize cover)
@@ -63,13 +81,15 @@ QImage read(const QString &path, QSize cover)
     WatchedFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
+    if (const QByteArray kind = metafile::kind(file.peek(metafile::HeadLength)); !kind.isEmpty())
+        return readMetafile(path, kind, cover);
     QImageReader reader(&file);
     reader.setAllocationLimit(MostMegabytes);
     reader.setAutoTransform(true);
     if (!isAllowed(reader.format()))
         return {};
     const QSize size = reader.size();
-    if (size.isEmpty() || static_cast<qint64>(size.width()) * size.height() > MostPixels)
+    if (!isBounded(size))
         return {};
     reader.setScaledSize(decodedSize(size, cover));
     const QByteArray format = reader.format();

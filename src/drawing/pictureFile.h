@@ -10,7 +10,7 @@ namespace pictureFile
 {
 
 /// The picture, no larger than it takes to cover `cover`. Null for what is no file, no picture of a kind that notes
-/// can show, damaged at its head, or of more than 100 million pixels.
+/// can show, damaged at its head, or of more than 100 million pixels; and for a metafile without a converter.
 QImage read(const QString &path, QSize cover);
 
 } // namespace pictureFile

@@ -56,6 +56,8 @@ private slots:
     void reads_data();
     void reads();
     void foldersAndMissingFiles();
+    void metafiles_data();
+    void metafiles();
 };
 
 void testPictureFile::reads_data()
@@ -103,6 +105,53 @@ void testPictureFile::foldersAndMissingFiles()
     QVERIFY(QDir(folder.path()).mkdir(u"a.bmp"_s));
     QVERIFY(pictureFile::read(folder.filePath(u"a.bmp"_s), {9, 9}).isNull());
     QVERIFY(pictureFile::read(folder.filePath(u"b.bmp"_s), {9, 9}).isNull());
+}
+
+void testPictureFile::metafiles_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("converter");
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<bool>("shown");
+    const QByteArray wmf = QByteArray::fromHex("d7cdc69a") + QByteArray(60, '\0');
+    const QByteArray emf = QByteArray::fromHex("01000000") + QByteArray(36, '\0') + " EMF" + QByteArray(60, '\0');
+    const QByteArray draws = "#!/bin/sh\nfor last; do :; done\ntest -f \"$last\" && cp \"$0.png\" picture.png\n";
+    QTest::newRow("wmf") << wmf << QByteArray("wmf2gd") << draws << true;
+    QTest::newRow("emf") << emf << QByteArray("inkscape") << draws << true;
+    QTest::newRow("emf for one that draws wmf") << emf << QByteArray("wmf2gd") << draws << false;
+    QTest::newRow("no converter") << wmf << QByteArray("another") << draws << false;
+    QTest::newRow("too long") << wmf + QByteArray(17'000'000, '\0') << QByteArray("wmf2gd") << draws << false;
+    QTest::newRow("fails") << wmf << QByteArray("wmf2gd") << QByteArray("#!/bin/sh\nexit 1\n") << false;
+    QTest::newRow("writes no picture") << wmf << QByteArray("wmf2gd") << QByteArray("#!/bin/sh\ndate >picture.png\n")
+                                       << false;
+    QTest::newRow("writes without end") << wmf << QByteArray("wmf2gd")
+                                        << QByteArray("#!/bin/sh\nexec cat /dev/zero >picture.png\n") << false;
+}
+
+void testPictureFile::metafiles()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, converter);
+    QFETCH(QByteArray, script);
+    const QTemporaryDir folder;
+    const auto write = [&folder](const QString &name, const QByteArray &content) {
+        QFile file(folder.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(content);
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    };
+    write(u"drawing"_s, bytes);
+    write(QString::fromLatin1(converter), script);
+    QImage::fromData(bitmap(30, 20)).save(folder.filePath(QString::fromLatin1(converter) + u".png"_s));
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(folder.path()) + ":/bin");
+    const QImage picture = pictureFile::read(folder.filePath(u"drawing"_s), {100, 100});
+    qputenv("PATH", path);
+    QTEST(!picture.isNull(), "shown");
+#else
+    QSKIP("The converters of this test are scripts of a shell.");
+#endif
 }
 
 QTEST_MAIN(testPictureFile)
