@@ -106,7 +106,7 @@ private:
     const HomeRules &m_home;
     LiveNote m_note;
     NotePlace m_place;
-    NoteFlash m_flash;
+    NoteFlash m_flash{this};
     QWidget *m_titleBar = nullptr; // fraTitleBar
     NoteTitle *m_title = nullptr;  // lblTitle, txtTitle
     PictureButton *m_menu = nullptr;

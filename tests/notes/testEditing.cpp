@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "notes/NoteFixture.h"
+#include "notes/parts/endlessRuns.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -18,6 +19,7 @@ private slots:
     void textComesBack_data();
     void textComesBack();
     void pasteCanBeUndone();
+    void endlessPasteIsRefused();
     void lockedTextIsNowhere_data();
     void lockedTextIsNowhere();
     void titles_data();
@@ -94,6 +96,23 @@ void testEditing::pasteCanBeUndone()
     NoteFixture::choose(*note, "mnuCopy", false);
     // The line end of a clipboard is the platform's; Qt makes it that of Windows there.
     QCOMPARE(QGuiApplication::clipboard()->text(), u"one\ntwo\nthree\nfour"_s);
+}
+
+/// Runs that lines cannot be broken in keep a text box busy for seconds, at each key.
+void testEditing::endlessPasteIsRefused()
+{
+    const QString half(endlessRuns::Longest / 2 + 1, u'x');
+    frmNote *note = m_fixture->create(half + u" b"_s);
+    QPlainTextEdit &box = NoteFixture::edit(*note);
+    box.moveCursor(QTextCursor::Start);
+    QGuiApplication::clipboard()->setText(half);
+    m_fixture->test.prompts.expect(Answer::Ok);
+    box.paste();
+    QTRY_VERIFY(m_fixture->test.prompts.isDone());
+    QGuiApplication::clipboard()->setText((u"words and "_s).repeated(endlessRuns::Longest));
+    box.paste();
+    note->commitEditing();
+    QCOMPARE(note->GetThisNoteProps()->Data.size(), endlessRuns::Longest * 10 + half.size() + 2);
 }
 
 void testEditing::lockedTextIsNowhere_data()

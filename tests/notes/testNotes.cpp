@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "alarms/modAlarm.h"
 #include "model/modStreams.h"
 #include "notes/NoteFixture.h"
+#include "support/answerDialog.h"
 
 #include <QDialog>
 
@@ -24,6 +26,7 @@ private slots:
     void restoringChangesNothing_data();
     void restoringChangesNothing();
     void missingFilesAreTold();
+    void flashOutlivesItsDialog();
     void rolling();
     void toolbarTwice_data();
     void toolbarTwice();
@@ -163,6 +166,35 @@ void testNotes::missingFilesAreTold()
              u"The sound /no/such.wav could not be found.\nSetting alarm flashing window only."_s);
     QVERIFY(!note->GetThisNoteProps()->SoundFileOn && note->GetThisNoteProps()->FlashOn);
     QVERIFY(note->findChild<QWidget *>(u"imgDisplay"_s) != nullptr);
+    // Once for a file that cannot be read, however often the note is dressed.
+    record.SoundFileOn = false;
+    record.PicFile = m_fixture->home.paths.DataFolder + u"/none.gif"_s;
+    TestHome::setContents(record.PicFile, "no picture");
+    m_fixture->test.prompts.expect(Answer::Ok);
+    frmNote *shown = m_fixture->create(record);
+    shown->recordChanged(0);
+    shown->recordChanged(0);
+    QVERIFY(shown->GetThisNoteProps()->BackPicOn);
+}
+
+void testNotes::flashOutlivesItsDialog()
+{
+    clsNoteProps record = m_fixture->program.NoteTemplate;
+    const QDateTime moment = m_fixture->test.clock.now().addSecs(60);
+    record.AlarmOn = record.FlashOn = true;
+    modAlarm::setAlarmDate(record, moment.date());
+    modAlarm::setAlarmTime(record, moment.time());
+    frmNote *note = m_fixture->create(record);
+    const auto *flash = note->findChild<NoteFlash *>();
+    answerDialog(u"frmSettings"_s, [this, flash](QDialog &dialog) {
+        m_fixture->test.clock.advance(60);
+        QVERIFY(flash->isFlashing());
+        press(dialog, "cmdOK");
+    });
+    NoteFixture::choose(*note, "mnuSettings");
+    QVERIFY(flash->isFlashing() && !note->GetThisNoteProps()->AlarmOn);
+    QTest::mouseClick(&NoteFixture::control<QWidget>(*note, "lblDisplay"), Qt::LeftButton);
+    QVERIFY(!flash->isFlashing());
 }
 
 void testNotes::rolling()
