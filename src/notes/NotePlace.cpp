@@ -7,12 +7,45 @@
 #include "notes/commands/LiveNote.h"
 #include "platform/displayPlatform.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
 using namespace std::chrono_literals;
 
 namespace
 {
+
 constexpr auto PlaceSettles = 300ms;
+constexpr int KeyStep = 10;
+constexpr int LeastSeen = 24; ///< Of the title bar, so that it can be reached by the mouse too.
+
+QPoint stepOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-KeyStep, 0};
+    case Qt::Key_Right:
+        return {KeyStep, 0};
+    case Qt::Key_Up:
+        return {0, -KeyStep};
+    case Qt::Key_Down:
+        return {0, KeyStep};
+    default:
+        return {};
+    }
 }
+
+bool isReachable(const QRect &titleBar)
+{
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&titleBar](const QScreen *screen) {
+        const QRect seen = screen->availableGeometry().intersected(titleBar);
+        return seen.width() >= LeastSeen && seen.height() >= titleBar.height() / 2;
+    });
+}
+
+} // namespace
 
 NotePlace::NotePlace(Program &program, QWidget &window, LiveNote &note)
     : m_program(program), m_window(window), m_note(note), m_drag(window)
@@ -84,6 +117,37 @@ void NotePlace::endMove()
 {
     if (m_drag.release())
         storePlace();
+}
+
+void NotePlace::step(WindowDrag::HitTest held, QPoint by)
+{
+    if (!m_beforeKeys)
+        m_beforeKeys = m_window.geometry();
+    m_drag.press(held, {});
+    m_drag.move(by);
+    endMove();
+}
+
+bool NotePlace::takeKey(const QKeyEvent &key)
+{
+    const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    const QPoint by = stepOf(key.key());
+    if (key.key() == Qt::Key_Escape && m_beforeKeys) {
+        m_window.setGeometry(*std::exchange(m_beforeKeys, std::nullopt));
+        storePlace();
+        return true;
+    }
+    if (by.isNull() || (modifiers != Qt::ControlModifier && modifiers != Qt::ShiftModifier)) {
+        if (key.key() != Qt::Key_Control && key.key() != Qt::Key_Shift)
+            endKeys();
+        return false;
+    }
+    const QRect titleBar(m_window.pos() + by, QSize(m_window.width(), NoteLayout::rolledHeight()));
+    if (modifiers == Qt::ShiftModifier && !m_note.locked)
+        step(WindowDrag::HitTest::BottomRight, by);
+    else if (modifiers == Qt::ControlModifier && !displayPlatform::hidesPlaces() && isReachable(titleBar))
+        step(WindowDrag::HitTest::Caption, by);
+    return true;
 }
 
 void NotePlace::storePlace()

@@ -6,8 +6,11 @@
 
 #include <QTimer>
 
+#include <optional>
+
 class LiveNote;
 class Program;
+class QKeyEvent;
 
 /// Place, size and rolling of a note's window, kept in step with its record. What happens to the window before
 /// setReady and after close, or while notes are loaded, is not the user's doing and is not stored.
@@ -36,6 +39,11 @@ public:
     /// Takes over where the window system has put the window.
     void settle();
     void endMove();
+    /// Ctrl and an arrow move the window, Shift and an arrow size it; Escape puts it back where it was before the first
+    /// of them. False for a key that does neither.
+    bool takeKey(const QKeyEvent &key);
+    /// What the keys have done so far is kept.
+    void endKeys() { m_beforeKeys.reset(); }
     /// Rolls the window up or down; while a note is being dressed its stored heights stay as they are.
     void roll();
     void toggleToolbar();
@@ -46,6 +54,7 @@ public:
 
 private:
     int heightAfterToggle(int before);
+    void step(WindowDrag::HitTest held, QPoint by);
 
     Program &m_program;
     QWidget &m_window;
@@ -58,6 +67,7 @@ private:
         int from = 0;
         int to = -1;
     } m_lowered;
+    std::optional<QRect> m_beforeKeys;
     bool m_ready = false;
     bool m_closing = false;
 };

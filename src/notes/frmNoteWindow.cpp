@@ -6,6 +6,7 @@
 #include "forms/modForms.h"
 #include "notes/ResizeHandles.h"
 #include "notes/commands/NoteMenus.h"
+#include "notes/commands/noteKeys.h"
 #include "notes/parts/LockOverlay.h"
 #include "notes/parts/NoteTitle.h"
 #include "platform/windowStacking.h"
@@ -83,21 +84,21 @@ void frmNote::contextMenuEvent(QContextMenuEvent *event)
 
 void frmNote::keyPressEvent(QKeyEvent *event)
 {
-    const int key = event->key();
-    if (key == Qt::Key_F2)
-        run(NoteCommand::Title);
-    else if (key == Qt::Key_F1)
-        run(NoteCommand::Help);
-    else if (key == Qt::Key_F6)
+    if (m_place.takeKey(*event))
+        return;
+    if (event->key() == Qt::Key_F6)
         modForms::activateNext(m_program, *this);
-    else if (key == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+    else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         m_menus->openLong();
-    else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_note.locked)
-        action().unlock();
-    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
-        action().editText();
-    else if (!m_note.body.scrollByKey(*event))
+    else if (!noteKeys::press(*event, m_note, action()))
         QWidget::keyPressEvent(event);
+}
+
+void frmNote::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        m_place.endKeys();
 }
 
 void frmNote::runOwn(NoteCommand command)

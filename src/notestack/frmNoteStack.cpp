@@ -10,6 +10,7 @@
 #include "notes/commands/LiveNote.h"
 #include "notes/commands/NoteAction.h"
 #include "notes/commands/NoteMenus.h"
+#include "notes/commands/noteKeys.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/LockOverlay.h"
 #include "notes/parts/NoteTitle.h"
@@ -129,7 +130,6 @@ void frmNoteStack::makeShortcuts()
     add(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [step] { step(1); });
     add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [step] { step(-1); });
     add(QKeySequence(Qt::Key_F1), [this] { modHelp::ShowHelp(m_program); });
-    add(QKeySequence(Qt::Key_F2), [this] { action().editTitle(); });
     add(QKeySequence(Qt::Key_F6), [this] { modForms::activateNext(m_program, *this); });
 }
 
@@ -231,13 +231,10 @@ void frmNoteStack::contextMenuEvent(QContextMenuEvent *event)
 
 void frmNoteStack::keyPressEvent(QKeyEvent *event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    LiveNote *note = chosen();
+    const LiveNote *note = chosen();
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         m_menus->openLong();
-    else if (enter && note != nullptr)
-        note->locked ? action().unlock() : action().editText();
-    else if (note == nullptr || !note->body.scrollByKey(*event))
+    else if (note == nullptr || !noteKeys::press(*event, *note, action()))
         QWidget::keyPressEvent(event);
 }
 

@@ -3,24 +3,15 @@
 #include "shell/frmMenu.h"
 
 #include "controls/SizeGrip.h"
-#include "dialogs/frmOptions.h"
-#include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
-#include "forms/modFormsSaving.h"
-#include "forms/modHelp.h"
-#include "forms/showModally.h"
-#include "notes/modCreateNote.h"
-#include "platform/Prompts.h"
 #include "platform/TrayIcon.h"
 #include "platform/windowStacking.h"
 #include "shell/PanelLogo.h"
 #include "shell/PanelRow.h"
+#include "shell/ProgramKeys.h"
 #include "shell/TrayMenu.h"
-#include "shell/frmAbout.h"
-#include "shell/modInitEnd.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -112,6 +103,7 @@ void frmMenu::makeShortcuts()
 {
     setTabOrder(m_rows.back(), m_logo);
     m_rows.front()->setFocus();
+    connect(new ProgramKeys(this), &ProgramKeys::commanded, this, &frmMenu::runFromKeys);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { run(PanelCommand::Help); });
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this,
             [this] { modForms::activateNext(m_program, *this); });
@@ -131,105 +123,6 @@ void frmMenu::makeTray()
     connect(m_tray, &TrayMenu::commanded, this, &frmMenu::runFromTray);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &frmMenu::comeBackWithoutTray);
     m_program.forms.changed = [this] { QMetaObject::invokeMethod(this, &frmMenu::showTip, Qt::QueuedConnection); };
-}
-
-void frmMenu::run(PanelCommand command)
-{
-    if (m_pressGuard || m_program.Exiting || command == PanelCommand::None)
-        return;
-    m_pressGuard = true;
-    if (isVisible())
-        windowStacking::SetForegroundWindow(*this);
-    const QPointer<frmMenu> self = this;
-    perform(command);
-    if (self != nullptr)
-        m_pressGuard = false;
-}
-
-/// The icon can be used while a window is open that waits for an answer, as a dialog of a note is. What moves, unloads
-/// or opens windows itself is refused then, with a word. While all notes are saved or moved nothing else is done.
-void frmMenu::runFromTray(PanelCommand command)
-{
-    constexpr std::array Independent{PanelCommand::New, PanelCommand::Show, PanelCommand::Save, PanelCommand::Help,
-                                     PanelCommand::Exit};
-    const bool isIndependent = std::find(Independent.begin(), Independent.end(), command) != Independent.end();
-    QWidget *modal = QApplication::activeModalWidget();
-    if (m_program.Exiting || (m_pressGuard && m_program.file.batchDepth > 0))
-        return;
-    if (!isIndependent && command != PanelCommand::None && modal != nullptr)
-        refuse(*modal);
-    else if (!m_pressGuard)
-        run(command);
-    else if (isIndependent)
-        perform(command);
-}
-
-void frmMenu::refuse(QWidget &modal)
-{
-    windowStacking::SetForegroundWindow(modal);
-    if (std::exchange(m_refusing, true))
-        return;
-    const QPointer<frmMenu> self = this;
-    m_program.prompts().tell(
-        {tr("Please close the open window first."), QStringLiteral("Quillets"), Message::Icon::Exclamation}, &modal);
-    if (self != nullptr)
-        m_refusing = false;
-}
-
-void frmMenu::perform(PanelCommand command)
-{
-    switch (command) {
-    case PanelCommand::New:
-        modCreateNote::createNewNote(m_program, Home::Desktop, isVisible() ? this : nullptr);
-        break;
-    case PanelCommand::Save:
-        modForms::SaveAllWithProgress(m_program);
-        break;
-    case PanelCommand::Help:
-        modHelp::ShowHelp(m_program);
-        break;
-    case PanelCommand::Exit:
-        modInit::ExitProgram(m_program);
-        break;
-    case PanelCommand::Show:
-        showMenu();
-        break;
-    case PanelCommand::AllToNoteStack:
-        modForms::TransferAllToNoteStack(m_program);
-        break;
-    case PanelCommand::Options:
-        openOptions();
-        break;
-    case PanelCommand::NoteStack:
-    case PanelCommand::AllToDesktop:
-        if (StackHolder *stack = m_program.forms.stack())
-            command == PanelCommand::NoteStack ? stack->showStack() : stack->TransferAllToDesktop();
-        break;
-    case PanelCommand::About:
-        openAbout();
-        break;
-    case PanelCommand::None:
-        break;
-    }
-}
-
-void frmMenu::openOptions()
-{
-    const QPointer<frmOptions> dialog = new frmOptions(m_program, isVisible() ? this : nullptr);
-    dialog->Initialize(m_program.ProgramOptions);
-    if (!showModally(dialog))
-        return;
-    dialog->OptionsResult(m_program.ProgramOptions);
-    dialog->unload();
-    if (isVisible())
-        windowStacking::SetForegroundWindow(*this);
-}
-
-void frmMenu::openAbout()
-{
-    const QPointer<frmAbout> dialog = new frmAbout(m_program, isVisible() ? this : nullptr);
-    if (showModally(dialog))
-        dialog->unload();
 }
 
 void frmMenu::changeEvent(QEvent *event)

@@ -46,6 +46,8 @@ private:
     void makeShortcuts();
     void layOutLogo(int width);
     void run(PanelCommand command);
+    void runInPlace(PanelCommand command);
+    void runFromKeys(PanelCommand command);
     void runFromTray(PanelCommand command);
     void refuse(QWidget &modal);
     void perform(PanelCommand command);

@@ -10,10 +10,17 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+namespace
+{
+constexpr float SmallestStep = 5.0F; ///< Points that steps lead to.
+constexpr float LargestStep = 72.0F;
+} // namespace
+
 LiveNote::LiveNote(Program &program, QWidget *paper)
     : body(paper), alarm(program, [this] { return &record; }), m_program(program)
 {
     connect(&body, &NoteBody::committed, this, &LiveNote::textCommitted);
+    connect(&body, &NoteBody::fontWheelTurned, this, &LiveNote::wheelTurned);
     connect(&body, &NoteBody::pasteRefused, this,
             [this, paper] { noteEditing::tellUnpastable(m_program, paper->window()); });
 }
@@ -67,6 +74,29 @@ void LiveNote::setLocked(bool on)
     QClipboard *clipboard = QGuiApplication::clipboard();
     if (clipboard->ownsSelection() && record.Data.contains(clipboard->text(QClipboard::Selection)))
         clipboard->clear(QClipboard::Selection);
+}
+
+void LiveNote::setFontSize(float points)
+{
+    if (record.FontSize == points)
+        return;
+    record.FontSize = points;
+    body.changeFont(noteFont::of(record, body.font()));
+    markChanged();
+}
+
+void LiveNote::stepFontSize(int points)
+{
+    const auto now = static_cast<float>(body.font().pointSizeF());
+    const float wanted = now + static_cast<float>(points);
+    setFontSize(points > 0 ? qMax(now, qMin(wanted, LargestStep)) : qMin(now, qMax(wanted, SmallestStep)));
+}
+
+/// A wheel asks for no password.
+void LiveNote::wheelTurned(int notches)
+{
+    if (!locked && !noteLocks::isReadOnly(record))
+        stepFontSize(notches);
 }
 
 void LiveNote::stop()

@@ -38,11 +38,16 @@ public:
     /// Ink, font and text as the record has them; `base` is the font of the window.
     void dress(const QFont &base);
     void setLocked(bool on);
+    /// In points.
+    void setFontSize(float points);
+    /// Larger or smaller by so many points, within what can be read and fits.
+    void stepFontSize(int points);
     /// Ends what the note has running; said when it leaves its window.
     void stop();
 
 private:
     void textCommitted(const QString &text);
+    void wheelTurned(int notches);
 
     Program &m_program;
 };

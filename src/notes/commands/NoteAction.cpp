@@ -84,6 +84,10 @@ void NoteAction::run(NoteCommand command) const
         return openDialog(command);
     case Help:
         return modHelp::ShowHelp(m_program);
+    case LargerFont:
+    case SmallerFont:
+    case UsualFont:
+        return changeFontSize(command);
     case Toolbar:
     case Scrolled:
     case OnTop:
@@ -113,15 +117,17 @@ void NoteAction::openDialog(NoteCommand command) const
         dialog->open(m_program, m_tag, m_owner);
 }
 
-void NoteAction::editText() const
+void NoteAction::editText(const QString &typed) const
 {
     LiveNote *now = note();
     if (now == nullptr || now->locked || now->body.isEditing() ||
         !noteEditing::mayEdit(m_program, clsNoteProps(now->record), m_owner))
         return;
     now = note();
-    if (now != nullptr && !now->locked && host()->isShown(*now))
-        host()->beginTextEditing(*now);
+    if (now == nullptr || now->locked || !host()->isShown(*now))
+        return;
+    host()->beginTextEditing(*now);
+    now->body.type(typed);
 }
 
 void NoteAction::editTitle() const
@@ -167,6 +173,21 @@ void NoteAction::print() const
 void NoteAction::toggleLock() const
 {
     note()->locked ? unlock() : host()->setLocked(m_tag, true);
+}
+
+/// One of the note's settings, asked for like the others.
+void NoteAction::changeFontSize(NoteCommand command) const
+{
+    const QString failure = noteDialogs::failure(*noteDialogs::find(NoteCommand::Settings));
+    if (note()->locked || !noteLocks::checkAccess(m_program, clsNoteProps(note()->record), failure, m_owner))
+        return;
+    LiveNote *now = note();
+    if (now == nullptr || now->locked)
+        return;
+    if (command == NoteCommand::UsualFont)
+        now->setFontSize(m_program.NoteTemplate.FontSize);
+    else
+        now->stepFontSize(command == NoteCommand::LargerFont ? 1 : -1);
 }
 
 void NoteAction::unlock() const

@@ -52,7 +52,8 @@ public:
     {}
 
     void run(NoteCommand command) const;
-    void editText() const;
+    /// Begins the edit as a click does; what was typed already is put behind the text.
+    void editText(const QString &typed = {}) const;
     void editTitle() const;
     void unlock() const;
     /// Asks whether the note is to be deleted, whatever refuses it then.
@@ -71,6 +72,7 @@ private:
     void paste() const;
     void print() const;
     void toggleLock() const;
+    void changeFontSize(NoteCommand command) const;
     void say(const Said &said) const;
 
     Program &m_program;

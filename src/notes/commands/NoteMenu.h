@@ -26,7 +26,10 @@ enum class NoteCommand
     Delete,
     Help,
     Copy,
-    Paste
+    Paste,
+    LargerFont,
+    SmallerFont,
+    UsualFont
 };
 
 /// One row of a menu's table.

@@ -2,14 +2,49 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/LockOverlay.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace
 {
+
+constexpr auto OverlayOfLabel = "overlay";
 constexpr qreal OverlayPoints = 8.5;
+
+/// To a screen reader the label is a button: it can be pressed.
+class OverlayAccess final : public QAccessibleWidget
+{
+public:
+    OverlayAccess(QLabel *label, LockOverlay &overlay)
+        : QAccessibleWidget(label, QAccessible::Button), m_overlay(overlay)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const auto &label = static_cast<const QLabel &>(*widget());
+        return kind == QAccessible::Name ? label.text().simplified() : QAccessibleWidget::text(kind);
+    }
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            emit m_overlay.clicked();
+    }
+
+private:
+    LockOverlay &m_overlay;
+};
+
+QAccessibleInterface *accessOf(const QString &, QObject *object)
+{
+    auto *label = qobject_cast<QLabel *>(object);
+    auto *overlay = label != nullptr ? label->property(OverlayOfLabel).value<LockOverlay *>() : nullptr;
+    return overlay != nullptr ? new OverlayAccess(label, *overlay) : nullptr;
 }
+
+} // namespace
 
 void LockOverlay::make()
 {
@@ -17,6 +52,8 @@ void LockOverlay::make()
     m_frame->setObjectName(QStringLiteral("fraPassword"));
     m_frame->setAutoFillBackground(true);
     m_label = new QLabel(m_frame);
+    m_label->setProperty(OverlayOfLabel, QVariant::fromValue(this));
+    QAccessible::installFactory(accessOf); // Once, however often it is said.
     m_label->setObjectName(QStringLiteral("lblPassword"));
     m_label->setTextFormat(Qt::PlainText);
     m_label->setAlignment(Qt::AlignCenter);

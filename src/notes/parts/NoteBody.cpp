@@ -9,6 +9,7 @@ NoteBody::NoteBody(QWidget *note)
 {
     nameControls();
     connect(m_text, &NoteText::pressed, this, &NoteBody::textPressed);
+    connect(m_text, &NoteText::fontWheelTurned, this, &NoteBody::fontWheelTurned);
 }
 
 NoteBody::~NoteBody()
@@ -71,6 +72,13 @@ void NoteBody::setLook(const QFont &font, const NoteInk &ink)
     dressTextBox();
 }
 
+void NoteBody::changeFont(const QFont &font)
+{
+    const TextPlace place = m_text->place();
+    setLook(font, m_ink);
+    m_text->scrollTo(place);
+}
+
 void NoteBody::setInk(const NoteInk &ink)
 {
     m_ink = ink;
@@ -109,6 +117,7 @@ void NoteBody::makeTextBox()
     m_textBox = new NoteTextBox(m_editLayer);
     nameControls();
     connect(m_textBox, &NoteTextBox::left, this, &NoteBody::commit);
+    connect(m_textBox, &NoteTextBox::fontWheelTurned, this, &NoteBody::fontWheelTurned);
     connect(m_textBox, &NoteTextBox::pasteRefused, this, &NoteBody::pasteRefused, Qt::QueuedConnection);
     dressTextBox();
     setGeometry(m_rect);
@@ -145,6 +154,9 @@ void NoteBody::commit()
     if (!m_editing)
         return;
     m_editing = false;
+    // Else the focus would go to the next picture.
+    if (m_textBox->window()->focusWidget() == m_textBox)
+        m_textBox->window()->setFocus();
     const QString text = m_textBox->noteText();
     setText(text);
     m_text->scrollTo(m_textBox->place());

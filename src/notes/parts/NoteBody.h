@@ -27,15 +27,20 @@ public:
     void setShown(bool shown);
     void setLook(const QFont &font, const NoteInk &ink);
     void setInk(const NoteInk &ink);
+    const QFont &font() const { return m_font; }
+    /// Another font for the text that is shown: the line at the top stays there.
+    void changeFont(const QFont &font);
     void setText(const QString &text);
     /// An empty path takes the picture away. False when the file cannot be shown.
     bool setPicture(const QString &path);
 
     /// Scrolls the text that is shown; false while it is edited or hidden, and for keys that scroll nothing.
-    bool scrollByKey(const QKeyEvent &key) { return m_shown && !m_editing && m_text->scrollByKey(key); }
+    bool scrollByKey(const QKeyEvent &key) const { return m_shown && !m_editing && m_text->scrollByKey(key); }
 
     void BeginTextEditing(const QString &text);
     bool isEditing() const { return m_editing; }
+    /// While it is edited: puts that where the caret is.
+    void type(const QString &text) { m_textBox->insertPlainText(text); }
     /// Ends an edit that is under way and tells its text.
     void commit();
     /// While it is edited: what a commit would give.
@@ -49,6 +54,8 @@ signals:
     void textPressed(Qt::MouseButton button, QPoint globalPosition);
     void editingChanged(bool editing);
     void committed(const QString &text);
+    /// The wheel was turned with Ctrl; up is positive.
+    void fontWheelTurned(int notches);
     /// What was pasted into the edit could not be laid out in time.
     void pasteRefused();
 

@@ -241,6 +241,10 @@ void NoteText::scrollTo(TextPlace place)
 void NoteText::wheelEvent(QWheelEvent *event)
 {
     event->accept();
+    if (const int notches = m_fontWheel.notches(*event); notches != 0)
+        emit fontWheelTurned(notches);
+    if (FontWheel::isMeant(*event))
+        return;
     m_turned += event->angleDelta().y() * LinesPerNotch;
     const int lines = m_turned / StepsPerNotch;
     m_turned -= lines * StepsPerNotch;

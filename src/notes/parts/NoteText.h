@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "notes/parts/FontWheel.h"
+
 #include <QLabel>
 
 #include <memory>
@@ -45,6 +47,8 @@ public:
 
 signals:
     void pressed(Qt::MouseButton button, QPoint globalPosition);
+    /// The wheel was turned with Ctrl; up is positive.
+    void fontWheelTurned(int notches);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -83,4 +87,5 @@ private:
     int m_firstLine = 0;
     qreal m_scroll = 0; ///< Top of that line.
     int m_turned = 0;   ///< Of the wheel, less than a notch.
+    FontWheel m_fontWheel;
 };

@@ -99,3 +99,12 @@ void NoteTextBox::keyPressEvent(QKeyEvent *event)
     else
         QPlainTextEdit::keyPressEvent(event);
 }
+
+void NoteTextBox::wheelEvent(QWheelEvent *event)
+{
+    if (!FontWheel::isMeant(*event))
+        return QPlainTextEdit::wheelEvent(event);
+    event->accept();
+    if (const int notches = m_fontWheel.notches(*event); notches != 0)
+        emit fontWheelTurned(notches);
+}

@@ -29,12 +29,16 @@ signals:
     void left();
     /// What was pasted or dropped has a run of characters that it could not lay out in time; nothing was inserted.
     void pasteRefused();
+    /// The wheel was turned with Ctrl; up is positive.
+    void fontWheelTurned(int notches);
 
 protected:
     void insertFromMimeData(const QMimeData *source) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     QString m_original;
+    FontWheel m_fontWheel;
 };

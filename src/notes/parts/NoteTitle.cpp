@@ -164,6 +164,9 @@ void NoteTitle::beginEditing(const QString &text)
 void NoteTitle::closeEditor()
 {
     m_editing = false;
+    // Else the focus would go to the next picture.
+    if (m_editor->window()->focusWidget() == m_editor)
+        m_editor->window()->setFocus();
     setVisible(m_visible);
 }
 
