@@ -11,7 +11,9 @@
 #include "model/version.h"
 
 #include <QHash>
+#include <QPointer>
 #include <QTimer>
+#include <QWidget>
 
 #include <memory>
 
@@ -74,6 +76,13 @@ public:
     DataFileState file;
     Forms forms;
     QTimer autoSave;
+    /// A window that "show or hide all notes" has hidden, and where it was.
+    struct HiddenWindow
+    {
+        QPointer<QWidget> window;
+        QPoint place;
+    };
+    std::vector<HiddenWindow> hiddenWindows;
     /// A write failed and the user has been told; told again only after one has succeeded.
     bool saveFailureTold = false;
     /// By tag: the picture file that could not be read, which is told once a run.

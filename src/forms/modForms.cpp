@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
+#include "forms/modFormsHiding.h"
 #include "platform/windowStacking.h"
 
 #include <QGuiApplication>
@@ -79,7 +80,7 @@ void ShowNoteWindows(Program &program)
         return;
     for (Form *form : program.forms.notes()) {
         QWidget *window = form->window();
-        if (window != nullptr && !window->isVisible())
+        if (window != nullptr && !window->isVisible() && !isHiddenWithAll(program, *form))
             window->show();
     }
 }

@@ -22,7 +22,8 @@ void RemoveSystemMenuItems(QWidget &form, bool r0, bool r1, bool r2, bool r3, bo
 /// until UnhookWindow or the end of the form's window.
 void HookWindow(Forms &forms, Form &form);
 void UnhookWindow(Form &form);
-/// Shows every note window that is hidden; said by every dialog when it goes. Nothing while another dialog shows.
+/// Shows every note window that is hidden, but not those that all were hidden with; said by every dialog when it goes.
+/// Nothing while another dialog shows.
 void ShowNoteWindows(Program &program);
 /// True while a window is shown that is none of the program's own five kinds.
 bool IsDialogShowing(const Program &program);

@@ -13,7 +13,6 @@
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/LockOverlay.h"
 #include "notes/parts/NoteTitle.h"
-#include "platform/SoundPlayer.h"
 #include "platform/windowStacking.h"
 
 #include <QApplication>
@@ -89,7 +88,10 @@ void frmNote::connectNote()
     connect(&m_flash, &NoteFlash::colourChanged, this, &frmNote::showFlash);
     connect(&m_flash, &NoteFlash::raiseWanted, this, [this] {
         // What is modal stays on top: it could neither be seen nor answered below a note.
-        if (!m_note.record.OnTopOn && QApplication::activeModalWidget() == nullptr)
+        if (QApplication::activeModalWidget() != nullptr)
+            return;
+        comeBack();
+        if (!m_note.record.OnTopOn)
             windowStacking::bringForward(*this);
     });
 }
@@ -232,28 +234,6 @@ void frmNote::ToTheNoteStack()
 void frmNote::ResetAlarms()
 {
     m_note.alarm.ArmNoteAlarm();
-}
-
-void frmNote::signalAlarm()
-{
-    if (m_note.record.FlashOn)
-        m_flash.StartFlashing(colours::fromLong(m_note.record.BackColor));
-    if (m_note.record.SoundFileOn)
-        PlayAlarmSound();
-}
-
-void frmNote::PlayAlarmSound()
-{
-    m_program.sound().play(m_note.record.SoundFile);
-}
-
-/// The colours of the record stay as they are; only what is seen alternates, with a text that can be read on both.
-void frmNote::showFlash(const QColor &paper)
-{
-    const clsNoteProps &record = m_note.record;
-    const bool isOwn = paper == colours::fromLong(record.BackColor);
-    m_note.ink = NoteInk::from(colours::toLong(paper), isOwn ? record.ForeColor : colours::SystemText);
-    dressInk();
 }
 
 /// A note that flashes goes on, in its new colours: only a click ends it.

@@ -101,6 +101,7 @@ private:
     void toggleOnTop();
     void UpdateToolbarIcons();
     void signalAlarm();
+    void comeBack();
     void PlayAlarmSound();
     void showFlash(const QColor &paper);
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "forms/Program.h"
+#include "forms/modFormsHiding.h"
 #include "model/logs.h"
 #include "model/windowState.h"
 #include "notes/commands/LiveNote.h"
@@ -37,7 +38,7 @@ void frmNoteStack::keepPlace()
 {
     WindowState now = m_kept;
     now.geometry = saveGeometry();
-    now.isShown = isVisible();
+    now.isShown = isVisible() || modForms::isHiddenWithAll(m_program, *this);
     keep(now);
     keepOrder();
 }

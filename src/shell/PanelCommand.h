@@ -16,5 +16,6 @@ enum class PanelCommand
     Exit,
     About,
     Show,
+    ShowOrHideAll,
     None
 };

@@ -3,17 +3,20 @@
 #include "dialogs/frmOptions.h"
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
+#include "forms/modFormsHiding.h"
 #include "forms/modFormsSaving.h"
 #include "forms/modHelp.h"
 #include "forms/showModally.h"
 #include "notes/modCreateNote.h"
 #include "platform/Prompts.h"
 #include "platform/windowStacking.h"
+#include "shell/PanelMenu.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMenu.h"
 #include "shell/modInitEnd.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 
 #include <array>
 
@@ -80,6 +83,14 @@ void frmMenu::refuse(QWidget &modal)
         m_refusing = false;
 }
 
+void frmMenu::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *menu = new PanelMenu(this);
+    // The menu goes with its choice: what is chosen is carried out when it has.
+    connect(menu, &PanelMenu::commanded, this, &frmMenu::runInPlace, Qt::QueuedConnection);
+    menu->popup(event->globalPos());
+}
+
 void frmMenu::perform(PanelCommand command)
 {
     switch (command) {
@@ -111,6 +122,9 @@ void frmMenu::perform(PanelCommand command)
         break;
     case PanelCommand::About:
         openAbout();
+        break;
+    case PanelCommand::ShowOrHideAll:
+        modForms::ShowOrHideAll(m_program);
         break;
     case PanelCommand::None:
         break;

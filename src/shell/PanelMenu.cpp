@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "shell/PanelMenu.h"
+
+namespace
+{
+
+struct Entry
+{
+    const char *name;
+    const char *caption;
+    const char *keys; ///< Shown beside the caption; they are ProgramKeys'.
+    PanelCommand command;
+};
+
+constexpr Entry Entries[] = {
+    {"mnuShowOrHide", QT_TRANSLATE_NOOP("PanelMenu", "Show or hide all notes"), "Ctrl+Shift+H",
+     PanelCommand::ShowOrHideAll},
+};
+
+} // namespace
+
+PanelMenu::PanelMenu(QWidget *panel) : QMenu(panel)
+{
+    setObjectName(QStringLiteral("mnuPanel"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    for (const Entry &entry : Entries) {
+        QAction *action = addAction(tr(entry.caption) + u'\t' + QLatin1String(entry.keys));
+        action->setObjectName(QLatin1String(entry.name));
+        connect(action, &QAction::triggered, this, [this, command = entry.command] { emit commanded(command); });
+    }
+}
