@@ -52,6 +52,8 @@ public:
     virtual void TransferAllToDesktop() = 0;
     /// Shows the window and brings it to the front.
     virtual void showStack() = 0;
+    /// Puts its notes into that order and shows the note with that tag; notes that are not in the order come last.
+    virtual void arrange(const std::vector<qint32> &order, qint32 shown) = 0;
     /// The data file was written: keeps the order of the tabs beside it.
     virtual void keepOrder() = 0;
 };

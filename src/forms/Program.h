@@ -4,6 +4,7 @@
 
 #include "drawing/Pictures.h"
 #include "drawing/Twips.h"
+#include "forms/DeletedNote.h"
 #include "forms/Forms.h"
 #include "model/clsNoteProps.h"
 #include "model/clsprogramoptions.h"
@@ -85,6 +86,8 @@ public:
     std::vector<HiddenWindow> hiddenWindows;
     /// A write failed and the user has been told; told again only after one has succeeded.
     bool saveFailureTold = false;
+    /// Said after the user has deleted a note; for whoever offers to take that back.
+    std::function<void(const DeletedNote &)> noteDeleted;
     /// By tag: the picture file that could not be read, which is told once a run.
     QHash<qint32, QString> unreadablePictures;
 

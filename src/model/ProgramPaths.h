@@ -17,7 +17,8 @@ struct ProgramPaths
     QString OptionsFile;
     QString DataFile;
     QString BackupFile;
-    QString EmptiedMark; ///< There while the data file is empty because the user has deleted the last note.
+    QString BackupsFolder; ///< Dated copies of the data file.
+    QString EmptiedMark;   ///< There while the data file is empty because the user has deleted the last note.
     QString AddressBookFile;
     QString SendBookFile;
     QString WindowFile;

@@ -3,6 +3,7 @@
 #include "model/modFileIOData.h"
 
 #include "model/DataSurvey.h"
+#include "model/datedCopies.h"
 #include "model/logs.h"
 #include "model/modFileIOFolder.h"
 #include "model/modStreams.h"
@@ -36,6 +37,14 @@ Outcome<Done, QString> settleAside(DataFileState &state)
     return Done{};
 }
 
+/// Nobody is told when it fails: what is to be kept is kept aside besides.
+void keepDated(const DataFileState &state, const QByteArray &bytes)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    if (const auto kept = datedCopies::keep(state.paths, bytes, now, now.date()); !kept)
+        qCWarning(logs::files) << "No dated copy was kept:" << kept.error();
+}
+
 /// A data file that could not be read at the start may be there again. Its notes are not shown in this run, but from
 /// then on stored with the others.
 Outcome<Done, QString> takeUpUnread(DataFileState &state)
@@ -49,6 +58,8 @@ Outcome<Done, QString> takeUpUnread(DataFileState &state)
     const DataSurvey survey = surveyDataFile(bytes, {}, 0);
     if (survey.isDamaged)
         state.asideOwedSince = QDateTime::currentDateTime();
+    if (!bytes.isEmpty())
+        keepDated(state, bytes);
     DataImage both = state.image;
     for (const QByteArrayView record : survey.beyondRoom)
         if (!both.keepForeign(record.toByteArray()))
@@ -78,6 +89,8 @@ Outcome<Done, QString> keepForeignFile(DataFileState &state)
     if (!kept)
         return Failure{kept.error()};
     state.keptMeanwhile.append(kept.value());
+    if (bytes)
+        keepDated(state, bytes.value());
     return Done{};
 }
 

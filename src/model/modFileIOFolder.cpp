@@ -25,8 +25,8 @@ struct Texts
 bool isOwnName(const QString &name)
 {
     static const QRegularExpression own(
-        uR"(^(quillets\.[a-z]+|(misc|window)\.set|(address|host)\.txt)"
-        uR"(|(quillets|misc|window)-\d{4}-\d\d-\d\d-\d{6}-[a-z-]+(-\d+)?\.[a-z]+)(\.[A-Za-z]{6}|\.lock)?$)"_s);
+        uR"(^(quillets\.[a-z]+|(misc|window)\.set|(address|host)\.txt|backups)"
+        uR"(|(quillets|misc|window)-\d{4}-\d\d-\d\d-\d{6}(-[a-z-]+)?(-\d+)?\.[a-z]+)(\.[A-Za-z]{6}|\.lock)?$)"_s);
     return own.match(name).hasMatch();
 }
 
@@ -51,6 +51,16 @@ bool holdsOwnFilesAlone(const QDir &folder)
     return std::all_of(names.begin(), names.end(), isOwnName);
 }
 
+void removeLeftoversIn(const QDir &folder)
+{
+    for (const QString &name : folder.entryList(QDir::Files | QDir::NoSymLinks)) {
+        if (!isLeftover(name))
+            continue;
+        const bool isRemoved = QFile::remove(folder.filePath(name));
+        qCInfo(logs::files) << folder.filePath(name) << (isRemoved ? "was left behind: removed" : "not removed");
+    }
+}
+
 } // namespace
 
 Outcome<Done, QString> modFileIO::prepareDataFolder(const ProgramPaths &paths)
@@ -69,11 +79,6 @@ Outcome<Done, QString> modFileIO::prepareDataFolder(const ProgramPaths &paths)
 
 void modFileIO::removeLeftovers(const ProgramPaths &paths)
 {
-    const QDir folder(paths.DataFolder);
-    for (const QString &name : folder.entryList(QDir::Files | QDir::NoSymLinks)) {
-        if (!isLeftover(name))
-            continue;
-        const bool isRemoved = QFile::remove(folder.filePath(name));
-        qCInfo(logs::files) << folder.filePath(name) << (isRemoved ? "was left behind: removed" : "not removed");
-    }
+    removeLeftoversIn(QDir(paths.DataFolder));
+    removeLeftoversIn(QDir(paths.BackupsFolder));
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "model/DataSurvey.h"
+#include "model/datedCopies.h"
 #include "model/logs.h"
 #include "model/modFileIOData.h"
 #include "model/modFileIOFolder.h"
@@ -8,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -56,6 +58,21 @@ bool keepCopy(const QString &path, const QString &suffix, const QDateTime &now, 
     return kept.ok();
 }
 
+/// Nobody is told when it fails: the start does not depend on it.
+void keepDated(const ProgramPaths &paths, const QByteArray &bytes, const QDateTime &moment, const QDateTime &now)
+{
+    if (const auto kept = datedCopies::keep(paths, bytes, moment, now.date()); !kept)
+        qCWarning(logs::files) << "No dated copy was kept:" << kept.error();
+}
+
+/// At the first start of a day, and at each that finds damage.
+void keepCopyOfToday(const DataFileState &state, const QByteArray &file, const DataSurvey &survey, const QDateTime &now)
+{
+    const bool isDue = survey.recordCount > 0 && !datedCopies::hasCopyOf(state.paths, now.date());
+    if (isDue || (survey.isDamaged && !file.isEmpty()))
+        keepDated(state.paths, file, now, now);
+}
+
 bool wasEmptied(const DataFileState &state, const QByteArray &file)
 {
     return file.isEmpty() && QFile::exists(state.paths.EmptiedMark);
@@ -70,6 +87,8 @@ bool secureFormerBackup(const DataFileState &state, const QByteArray &file, cons
     const auto former = wholeFile::read(state.paths.BackupFile, DataImage::MaximumLength);
     const bool isWorthless =
         former ? former.value().isEmpty() || former.value() == file : former.error().kind == ReadFailure::Kind::Missing;
+    if (former && !isWorthless)
+        keepDated(state.paths, former.value(), QFileInfo(state.paths.BackupFile).lastModified(), now);
     return isWorthless ||
            keepCopy(state.paths.BackupFile, survey.isDamaged ? u"before-damage"_s : u"before-empty"_s, now, report);
 }
@@ -127,6 +146,7 @@ LoadReport modFileIO::LoadDataFile(DataFileState &state, const clsNoteProps &not
                         << "not read, damaged:" << survey.isDamaged;
     if (survey.isDamaged && !keepCopy(state.paths.DataFile, u"damaged"_s, now, report))
         state.asideOwedSince = now;
+    keepCopyOfToday(state, *file, survey, now);
     writeBackup(state, *file, survey, now, report);
     if (survey.recordCount > 0 && pause)
         pause();

@@ -34,7 +34,7 @@ public:
     /// The note goes by deleteLater. In the place of the chosen one the next is chosen, or the last; when another one
     /// goes, the chosen one stays chosen.
     void remove(int index);
-    /// Puts the notes into this order of tags, which holds each of them once.
+    /// Puts the notes into this order of tags; those that are not in it come last.
     void reorder(const std::vector<qint32> &order, qint32 chosen);
 
 private:

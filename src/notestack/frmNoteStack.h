@@ -61,6 +61,7 @@ public:
     // StackHolder
     int AddANote(const clsNoteProps &note, Lid lid = Lid::AsRecorded) override;
     void keepOrder() override;
+    void arrange(const std::vector<qint32> &order, qint32 shown) override;
     void TransferAllToDesktop() override;
     void showStack() override;
 

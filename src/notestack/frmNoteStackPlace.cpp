@@ -79,7 +79,12 @@ void frmNoteStack::restoreOrder()
         if (!chosenBefore.isEmpty() && notes.back().key == chosenBefore)
             chosenNow = tag;
     }
-    m_notes->reorder(stackOrder::sorted(notes, kept), chosenNow);
+    arrange(stackOrder::sorted(notes, kept), chosenNow);
+}
+
+void frmNoteStack::arrange(const std::vector<qint32> &order, qint32 shown)
+{
+    m_notes->reorder(order, shown);
     for (const qint32 tag : tags()) {
         showTitle(*live(tag));
         m_tabs->setInk(m_notes->indexOf(tag), live(tag)->ink);

@@ -23,6 +23,7 @@
 #include "platform/SystemSound.h"
 #include "platform/displayPlatform.h"
 #include "platform/windowStacking.h"
+#include "restore/deletions.h"
 #include "shell/frmMenu.h"
 #include "shell/frmSplash.h"
 #include "shell/modInitEnd.h"
@@ -115,6 +116,7 @@ int run(Program &program)
     splash->setStatus(QStringLiteral("Loading program components... "));
     const QPointer<frmNoteStack> stack = new frmNoteStack(program);
     stack->Initialize();
+    program.noteDeleted = [&program](const DeletedNote &note) { deletions::offerUndo(program, note); };
     EndSignals endSignals;
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));

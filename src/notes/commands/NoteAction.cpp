@@ -229,5 +229,17 @@ void NoteAction::askAndDelete() const
     if (note()->locked)
         say(m_home.lockedDeletion);
     else if (passes(m_home.refusedDeletion))
-        host()->remove(m_tag);
+        deleteNow();
+}
+
+void NoteAction::deleteNow() const
+{
+    NoteHost *home = host();
+    home->commitEditsOf(m_tag);
+    home->updateRecords();
+    const DeletedNote deleted{note()->record, home->tags(), home->hostWindow().frameGeometry()};
+    Program &program = m_program;
+    home->remove(m_tag);
+    if (program.noteDeleted)
+        program.noteDeleted(deleted);
 }

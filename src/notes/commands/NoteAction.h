@@ -67,6 +67,7 @@ private:
     bool refuses(NoteCommand command) const;
     bool passes(const Said &refusal) const;
     void askAndMove() const;
+    void deleteNow() const;
     void openDialog(NoteCommand command) const;
     void copy() const;
     void paste() const;
