@@ -8,8 +8,10 @@
 #include "model/modCopyObject.h"
 #include "model/modFileIOOptions.h"
 #include "platform/Prompts.h"
+#include "platform/autostart.h"
 
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QPushButton>
 
 namespace
@@ -46,6 +48,7 @@ frmOptions::frmOptions(Program &program, QWidget *owner)
 void frmOptions::Initialize(const clsprogramoptions &options)
 {
     modCopyObject::CopyOptions(options, m_options);
+    m_atLogIn = autostart::isOn();
     for (const auto &fill : m_fill)
         fill();
     m_appearance->showFields();
@@ -62,7 +65,19 @@ bool frmOptions::OptionsResult(clsprogramoptions &options)
     if (!saved)
         program().prompts().tell(
             {tr("The options could not be saved.\n%1").arg(saved.error()), tr("Error"), Message::Icon::Critical}, this);
+    keepAutostart();
     return true;
+}
+
+void frmOptions::keepAutostart()
+{
+    if (m_atLogIn == autostart::isOn())
+        return;
+    const QString reason = autostart::set(m_atLogIn, QFileInfo(program().paths().DataFolder).path());
+    if (!reason.isEmpty())
+        program().prompts().tell(
+            {tr("The start at log-in could not be changed.\n%1").arg(reason), tr("Error"), Message::Icon::Critical},
+            this);
 }
 
 std::optional<Flaw> frmOptions::findFlaw()

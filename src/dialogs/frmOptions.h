@@ -36,6 +36,7 @@ private:
     QWidget *makeGeneral();
     QGroupBox *makePersonal();
     QGroupBox *makeMiscellaneous();
+    QGroupBox *makeLogIn();
     QWidget *makeAlarmPassword();
     QWidget *makeNetworking();
     QGroupBox *makeSend();
@@ -46,7 +47,10 @@ private:
     NumberBox *makePort();
     void addBook(QFormLayout *rows, const QString &name, const QString &caption, const QString &title, QString &field);
 
+    void keepAutostart();
+
     clsprogramoptions m_options;
+    bool m_atLogIn = false;                    ///< No option of the file: the desktop keeps it.
     std::vector<std::function<void()>> m_fill; ///< Each shows one field of the options.
     QWidget *m_firstText = nullptr;            // txtName
     QWidget *m_height = nullptr;               // txtSizeHeight

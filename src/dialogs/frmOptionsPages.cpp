@@ -8,6 +8,7 @@
 #include "dialogs/frmOptions.h"
 #include "forms/Program.h"
 #include "model/textFile.h"
+#include "platform/autostart.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -156,7 +157,11 @@ void frmOptions::addBook(QFormLayout *rows, const QString &name, const QString &
 QWidget *frmOptions::makeGeneral()
 {
     QGroupBox *personal = makePersonal();
-    return pageOf(this, {personal, makeMiscellaneous()});
+    QGroupBox *miscellaneous = makeMiscellaneous();
+    QWidget *page = pageOf(this, {personal, miscellaneous});
+    if (autostart::isSupported())
+        static_cast<QVBoxLayout *>(page->layout())->insertWidget(2, makeLogIn());
+    return page;
 }
 
 QGroupBox *frmOptions::makePersonal()
@@ -187,6 +192,13 @@ QGroupBox *frmOptions::makeMiscellaneous()
     rows->addRow(tr("&Width:"), m_width);
     layout->addLayout(rows);
     layout->addWidget(hint(tr("In inches, from 0.5 to 5."), group));
+    return group;
+}
+
+QGroupBox *frmOptions::makeLogIn()
+{
+    auto *group = new QGroupBox(tr("Desktop"), this);
+    addCheck(column(group, Spacing / 3), QStringLiteral("AtLogIn"), tr("&Start Quillets at log-in"), m_atLogIn);
     return group;
 }
 

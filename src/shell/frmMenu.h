@@ -27,6 +27,8 @@ public:
     explicit frmMenu(Program &program);
     ~frmMenu() override;
 
+    /// Lets the desktop command what the tray can; from now on, when all notes are there.
+    void answerDesktop();
     /// Lays the panel out for its size.
     void ResizeForm();
     QWidget *window() override { return this; }

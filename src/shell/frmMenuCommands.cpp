@@ -8,6 +8,7 @@
 #include "forms/modHelp.h"
 #include "forms/showModally.h"
 #include "notes/modCreateNote.h"
+#include "platform/DesktopActions.h"
 #include "platform/Prompts.h"
 #include "platform/windowStacking.h"
 #include "shell/PanelMenu.h"
@@ -69,6 +70,28 @@ void frmMenu::runFromTray(PanelCommand command)
         run(command);
     else if (isIndependent)
         perform(command);
+}
+
+void frmMenu::answerDesktop()
+{
+    struct Action
+    {
+        const char *name;
+        PanelCommand command;
+    };
+    // As the desktop entry names them.
+    static constexpr std::array Actions{Action{"new-note", PanelCommand::New},
+                                        Action{"show-or-hide", PanelCommand::ShowOrHideAll},
+                                        Action{"notestack", PanelCommand::NoteStack}};
+    auto *desktop = new DesktopActions(this);
+    connect(desktop, &DesktopActions::activated, this, [this] { runFromTray(PanelCommand::Show); });
+    connect(desktop, &DesktopActions::actionWanted, this, [this](const QString &name) {
+        const auto *found = std::find_if(Actions.begin(), Actions.end(),
+                                         [&name](const Action &action) { return name == QLatin1String(action.name); });
+        if (found != Actions.end())
+            runFromTray(found->command);
+    });
+    desktop->publish();
 }
 
 void frmMenu::refuse(QWidget &modal)

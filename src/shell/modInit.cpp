@@ -31,6 +31,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QScreen>
+#include <QTimer>
 
 using namespace std::chrono_literals;
 
@@ -132,6 +133,8 @@ int run(Program &program)
         return 0;
     if (frmNoteStack::wasShown(program))
         stack->show();
+    // When what was started is on the screen.
+    QTimer::singleShot(0, panel, &frmMenu::answerDesktop);
     const int result = QApplication::exec();
     delete panel;
     return result;

@@ -3,6 +3,7 @@
 #include "dialogChecks.h"
 #include "dialogs/frmOptions.h"
 #include "model/modFileIOOptions.h"
+#include "support/TestHome.h"
 #include "support/failOnWarnings.h"
 
 #include <QCheckBox>
@@ -49,6 +50,7 @@ private slots:
     void checks_data();
     void checks();
     void failedSaveIsTold();
+    void startAtLogIn();
 
 private:
     Program &program() { return m_test->program; }
@@ -188,6 +190,42 @@ void testOptionsDialog::failedSaveIsTold()
     m_test->prompts.expect(Prompts::Answer::Ok);
     QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
     QVERIFY(m_test->prompts.last.text.startsWith(u"The options could not be saved.\n"));
+}
+
+void testOptionsDialog::startAtLogIn()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    const QTemporaryDir config;
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config.path()));
+    QFile entry(config.filePath(u"autostart/org.quillets.Quillets.desktop"_s));
+    const auto accept = [this](bool on) {
+        m_dialog = std::make_unique<frmOptions>(program(), nullptr);
+        m_dialog->Initialize(program().ProgramOptions);
+        m_dialog->show();
+        control<QCheckBox>(*m_dialog, "chkAtLogIn").setChecked(on);
+        press(*m_dialog, "cmdOK");
+        QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
+    };
+    accept(false);
+    QVERIFY(!entry.exists());
+    accept(true);
+    QVERIFY(entry.open(QIODevice::ReadOnly));
+    const QByteArray text = entry.readAll();
+    QVERIFY(text.contains("\nPath=" + QFileInfo(program().paths().DataFolder).path().toUtf8() + '\n'));
+    QVERIFY(text.contains("\nExec=\"" + QCoreApplication::applicationFilePath().toUtf8() + "\"\n"));
+    // Switched off by the desktop's own tool.
+    TestHome::setContents(entry.fileName(), text + "Hidden=true\n");
+    m_dialog = std::make_unique<frmOptions>(program(), nullptr);
+    m_dialog->Initialize(program().ProgramOptions);
+    QVERIFY(!control<QCheckBox>(*m_dialog, "chkAtLogIn").isChecked());
+    accept(true);
+    accept(false);
+    QVERIFY(!entry.exists());
+    qputenv("XDG_CONFIG_HOME", before);
+#else
+    QSKIP("The start at log-in is the desktop's own matter here.");
+#endif
 }
 
 QTEST_MAIN(testOptionsDialog)
