@@ -4,6 +4,7 @@
 
 #include "platform/windowStacking.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -37,6 +38,8 @@ Prompts::Answer SystemPrompts::ask(const Message &message, QWidget *owner)
     const bool cancel = message.buttons == Message::Buttons::OkCancel;
     box->setStandardButtons(cancel ? QMessageBox::Ok | QMessageBox::Cancel
                                    : QMessageBox::StandardButtons(QMessageBox::Ok));
+    for (QAbstractButton *button : box->buttons())
+        button->setIcon({}); // Some styles bring old ones.
     box->setDefaultButton(message.enter == Message::Enter::Ok ? QMessageBox::Ok : QMessageBox::Cancel);
     windowStacking::keepAboveNotes(*box);
     const QPointer<QWidget> window = owner;
