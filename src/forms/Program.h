@@ -5,12 +5,14 @@
 #include "drawing/Pictures.h"
 #include "drawing/Twips.h"
 #include "forms/Forms.h"
+#include "model/clsNetworkSettings.h"
 #include "model/clsNoteProps.h"
 #include "model/clsprogramoptions.h"
 #include "model/modFileIO.h"
 #include "model/version.h"
 
 #include <QHash>
+#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -68,6 +70,7 @@ public:
 
     clsprogramoptions DefaultOptions;
     clsprogramoptions ProgramOptions;
+    clsNetworkSettings NetworkSettings;
     clsNoteProps NewNoteDefaults;
     clsNoteProps NoteTemplate;
 
@@ -78,6 +81,8 @@ public:
     bool saveFailureTold = false;
     /// By tag: the picture file that could not be read, which is told once a run.
     QHash<qint32, QString> unreadablePictures;
+    /// Tags of the notes whose next alarm makes no sound, because another's of the same burst does.
+    QSet<qint32> silentOnce;
 
 private:
     Services m_services;

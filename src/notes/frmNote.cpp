@@ -128,7 +128,7 @@ void frmNote::ApplyNoteAppearance()
     noteDressing::dressPicture(m_program, m_note.record, m_note.body, this);
 }
 
-void frmNote::ApplyNoteState(NoteCreateMode)
+void frmNote::ApplyNoteState(NoteCreateMode mode)
 {
     clsNoteProps &record = m_note.record;
     windowStacking::SetWindowOnTop(*this, record.OnTopOn);
@@ -142,7 +142,9 @@ void frmNote::ApplyNoteState(NoteCreateMode)
         lockform();
     const QPointer<frmNote> self = this;
     noteDressing::checkSound(m_program, record, this);
-    if (self != nullptr && !isUnloaded())
+    // A note that comes from elsewhere is silent while it is hidden.
+    const bool isLater = mode == NoteCreateMode::Load && modForms::isAnswerAwaited(m_program);
+    if (self != nullptr && !isUnloaded() && !isLater)
         m_note.alarm.ArmNoteAlarm();
 }
 
@@ -238,7 +240,8 @@ void frmNote::signalAlarm()
 {
     if (m_note.record.FlashOn)
         m_flash.StartFlashing(colours::fromLong(m_note.record.BackColor));
-    if (m_note.record.SoundFileOn)
+    const bool isSilent = m_program.silentOnce.remove(Tag());
+    if (m_note.record.SoundFileOn && !isSilent)
         PlayAlarmSound();
 }
 

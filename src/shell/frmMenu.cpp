@@ -16,6 +16,8 @@
 #include "platform/windowStacking.h"
 #include "shell/PanelLogo.h"
 #include "shell/PanelRow.h"
+#include "shell/ReceivedLine.h"
+#include "shell/ReceivedNotes.h"
 #include "shell/TrayMenu.h"
 #include "shell/frmAbout.h"
 #include "shell/modInitEnd.h"
@@ -59,7 +61,9 @@ constexpr std::array<Row, 8> Rows{{
 
 } // namespace
 
-frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this)
+frmMenu::frmMenu(Program &program)
+    : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this),
+      m_received(new ReceivedNotes(program, this))
 {
     setObjectName(formName());
     setWindowTitle(tr("Menu - Quillets"));
@@ -70,6 +74,7 @@ frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toStrin
     makeRows();
     makeGrip();
     makeTray();
+    makeReceived();
     makeShortcuts();
 }
 
@@ -111,6 +116,7 @@ void frmMenu::makeRows()
 void frmMenu::makeShortcuts()
 {
     setTabOrder(m_rows.back(), m_logo);
+    setTabOrder(m_logo, m_receivedLine);
     m_rows.front()->setFocus();
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { run(PanelCommand::Help); });
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this,
@@ -131,6 +137,26 @@ void frmMenu::makeTray()
     connect(m_tray, &TrayMenu::commanded, this, &frmMenu::runFromTray);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &frmMenu::comeBackWithoutTray);
     m_program.forms.changed = [this] { QMetaObject::invokeMethod(this, &frmMenu::showTip, Qt::QueuedConnection); };
+}
+
+void frmMenu::makeReceived()
+{
+    m_receivedLine = new ReceivedLine(m_program, *m_received, this);
+    connect(m_received, &ReceivedNotes::changed, this, [this] {
+        ResizeForm();
+        showTip();
+    });
+}
+
+void frmMenu::startReceiving()
+{
+    m_received->start();
+}
+
+/// The windows are closed after this.
+void frmMenu::keepPlace()
+{
+    m_received->stop();
 }
 
 void frmMenu::run(PanelCommand command)
@@ -220,6 +246,7 @@ void frmMenu::openOptions()
     if (!showModally(dialog))
         return;
     dialog->OptionsResult(m_program.ProgramOptions);
+    m_received->settingsChanged();
     dialog->unload();
     if (isVisible())
         windowStacking::SetForegroundWindow(*this);
@@ -276,7 +303,7 @@ void frmMenu::showMenu()
 
 void frmMenu::showTip()
 {
-    m_tray->setCount(static_cast<int>(m_program.forms.tags().size()));
+    m_tray->setCount(static_cast<int>(m_program.forms.tags().size()), ReceivedLine::textFor(m_received->unseen()));
 }
 
 void frmMenu::closeEvent(QCloseEvent *event)

@@ -4,6 +4,7 @@
 
 #include "forms/NoteHolder.h"
 #include "notes/commands/NoteMenu.h"
+#include "notes/commands/noteDialogs.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -35,6 +36,7 @@ struct HomeRules
     Said refusedMove;
     Said lockedDeletion;
     Said refusedDeletion;
+    noteDialogs::Captions captions;
     /// The lines of a text on paper.
     QStringList (*linesOnPaper)(const QString &text, const QFont &font, float twipsPerPixel);
     /// Puts the note into the other home.
