@@ -83,6 +83,7 @@ public:
         QPoint place;
     };
     std::vector<HiddenWindow> hiddenWindows;
+    QString lastSearch; ///< What was looked for last; with it F3 goes on.
     /// A write failed and the user has been told; told again only after one has succeeded.
     bool saveFailureTold = false;
     /// By tag: the picture file that could not be read, which is told once a run.

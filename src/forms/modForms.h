@@ -25,10 +25,10 @@ void UnhookWindow(Form &form);
 /// Shows every note window that is hidden, but not those that all were hidden with; said by every dialog when it goes.
 /// Nothing while another dialog shows.
 void ShowNoteWindows(Program &program);
-/// True while a window is shown that is none of the program's own five kinds.
+/// True while a window is shown that is none of the program's own kinds: these stay beside notes.
 bool IsDialogShowing(const Program &program);
-/// From a note, the NoteStack or the main panel to the next of these windows that is shown: desktops list no notes in
-/// their window switcher.
+/// From a note, the NoteStack, the main panel or the search to the next of these windows that is shown: desktops list
+/// no notes in their window switcher.
 void activateNext(Program &program, Form &from);
 /// Hides, destroys and unloads every window but the main panel, which is hidden. Saves nothing.
 void CloseAllWindows(Program &program);
