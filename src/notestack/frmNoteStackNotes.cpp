@@ -76,6 +76,7 @@ void frmNoteStack::connectNote(LiveNote &note)
         else
             m_menus->openShort(at);
     });
+    connect(&note.body, &NoteBody::markPressed, this, [this](qsizetype at) { action().toggleMark(at); });
     connect(&note.body, &NoteBody::editingChanged, this, [this, tag](bool editing) {
         const LiveNote *shown = chosen();
         if (shown != nullptr && shown->tag() == tag)
@@ -112,6 +113,13 @@ void frmNoteStack::ApplyTabState(LiveNote &note)
     noteDressing::checkSound(m_program, note.record, this);
     if (LiveNote *now = live(tag))
         ArmTabAlarm(*now);
+}
+
+void frmNoteStack::reveal(qint32 tag)
+{
+    showStack();
+    m_tabs->setCurrentIndex(m_notes->indexOf(tag));
+    setFocus();
 }
 
 void frmNoteStack::showTitle(LiveNote &note)

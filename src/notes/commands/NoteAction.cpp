@@ -9,9 +9,11 @@
 #include "notes/commands/NoteHost.h"
 #include "notes/commands/noteClipboard.h"
 #include "notes/commands/noteEditing.h"
+#include "notes/commands/noteFinding.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/NoteTitle.h"
+#include "notes/parts/textLinks.h"
 #include "platform/Prompts.h"
 #include "security/noteLocks.h"
 
@@ -87,6 +89,8 @@ void NoteAction::run(NoteCommand command) const
     case SmallerFont:
     case UsualFont:
         return changeFontSize(command);
+    case FindNext:
+        return findNext();
     case Toolbar:
     case Scrolled:
     case OnTop:
@@ -129,6 +133,24 @@ void NoteAction::editText(const QString &typed) const
     now->body.type(typed);
 }
 
+void NoteAction::toggleMark(qsizetype at) const
+{
+    LiveNote *now = note();
+    if (now == nullptr || now->locked || now->body.isEditing())
+        return;
+    const QString text = now->record.Data;
+    if (at >= text.size() || !noteEditing::mayEdit(m_program, clsNoteProps(now->record), m_owner))
+        return;
+    now = note();
+    // It was asked about this text.
+    if (now == nullptr || now->locked || now->body.isEditing() || now->record.Data != text)
+        return;
+    const QChar mark = textLinks::toggled(text.at(at));
+    now->body.replaceMark(text, at, mark);
+    now->record.Data[at] = mark;
+    now->markChanged();
+}
+
 void NoteAction::editTitle() const
 {
     LiveNote *now = note();
@@ -153,6 +175,13 @@ void NoteAction::paste() const
 {
     if (!note()->locked)
         noteEditing::paste(m_program, note()->record, note()->body);
+}
+
+/// Goes on with what was looked for last.
+void NoteAction::findNext() const
+{
+    if (!note()->locked)
+        noteFinding::showNext(note()->body, m_program.lastSearch);
 }
 
 void NoteAction::print() const

@@ -56,6 +56,8 @@ public:
     void run(NoteCommand command) const;
     /// Begins the edit as a click does; what was typed already is put behind the text.
     void editText(const QString &typed = {}) const;
+    /// Ticks the box of a line, or unticks it; `at` is where its mark is in the text.
+    void toggleMark(qsizetype at) const;
     void editTitle() const;
     void unlock() const;
     /// Asks whether the note is to be deleted, whatever refuses it then.
@@ -75,6 +77,7 @@ private:
     void paste() const;
     void print() const;
     void toggleLock() const;
+    void findNext() const;
     void changeFontSize(NoteCommand command) const;
     void say(const Said &said) const;
 

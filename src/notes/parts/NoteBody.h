@@ -37,6 +37,15 @@ public:
     /// Scrolls the text that is shown; false while it is edited or hidden, and for keys that scroll nothing.
     bool scrollByKey(const QKeyEvent &key) const { return m_shown && !m_editing && m_text->scrollByKey(key); }
 
+    /// The text to look for something in, as `showFound` counts: that of the edit while there is one.
+    QString searchedText() const { return m_editing ? m_textBox->toPlainText() : m_text->shownText(); }
+    /// Where to go on: behind what was found last, or behind the caret.
+    qsizetype searchedTo() const { return m_editing ? m_textBox->textCursor().selectionEnd() : m_text->endOfFound(); }
+    void showFound(qsizetype at, qsizetype length)
+    {
+        m_editing ? m_textBox->showFound(at, length) : m_text->showFound(at, length);
+    }
+
     void BeginTextEditing(const QString &text);
     bool isEditing() const { return m_editing; }
     /// While it is edited: puts that where the caret is.
@@ -47,6 +56,8 @@ public:
     QString typedText() const { return m_textBox->noteText(); }
     /// Replaces the whole text, undoable in the next edit.
     void replaceText(const QString &former, const QString &text);
+    /// Another mark in the box of a line, undoable in the next edit.
+    void replaceMark(const QString &former, qsizetype at, QChar mark);
     /// Nothing of the text is left in any widget.
     void forgetText();
 
@@ -54,6 +65,10 @@ signals:
     void textPressed(Qt::MouseButton button, QPoint globalPosition);
     void editingChanged(bool editing);
     void committed(const QString &text);
+    /// An address was pressed with Ctrl.
+    void addressPressed(const QUrl &address);
+    /// The same of the mark of a box in the text that is shown; where it is in the text.
+    void markPressed(qsizetype at);
     /// The wheel was turned with Ctrl; up is positive.
     void fontWheelTurned(int notches);
     /// What was pasted into the edit could not be laid out in time.
@@ -62,6 +77,7 @@ signals:
 private:
     void nameControls();
     void makeTextBox();
+    void prepareTextBox(const QString &text);
     void showLayers();
     void dressTextBox();
 

@@ -5,11 +5,12 @@
 #include "notes/parts/FontWheel.h"
 
 #include <QLabel>
+#include <QTextLayout>
+#include <QUrl>
 
 #include <memory>
+#include <optional>
 #include <vector>
-
-class QTextLayout;
 
 /// A line of a text as it is wrapped: the paragraph it belongs to and which of its lines it is, both from 0.
 struct TextPlace
@@ -36,6 +37,13 @@ public:
     /// Scrolls so that the line is at the top, or as far as the text goes; to the beginning for a line so far down
     /// that it would take its time.
     void scrollTo(TextPlace place);
+    /// Marks that part of the text, counted in UTF-16 units, and scrolls to it; it stays marked until the text changes
+    /// or is pressed.
+    void showFound(qsizetype at, qsizetype length);
+    void forgetFound();
+    /// Behind what is marked; 0 where nothing is.
+    qsizetype endOfFound() const { return m_found.length == 0 ? 0 : m_found.start + m_found.length; }
+    const QString &shownText() const { return m_shown; }
     /// Scrolls by an arrow, Page Up, Page Down, Home or End; false for any other key. In a very long text one press
     /// of End goes only as far as does not take its time.
     bool scrollByKey(const QKeyEvent &key);
@@ -47,13 +55,19 @@ public:
 
 signals:
     void pressed(Qt::MouseButton button, QPoint globalPosition);
+    /// With Ctrl.
+    void addressPressed(const QUrl &address);
+    /// The mark of a box at the beginning of a line, with Ctrl; where it is in the text.
+    void markPressed(qsizetype at);
     /// The wheel was turned with Ctrl; up is positive.
     void fontWheelTurned(int notches);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -61,10 +75,17 @@ private:
     struct Paragraph
     {
         std::unique_ptr<QTextLayout> layout;
+        qsizetype begin = 0;
         qreal top = 0;
         qreal height = 0;
     };
 
+    static constexpr int LastReachable = 20'000; ///< Lines and paragraphs.
+    static bool isLineEnd(QChar c);
+
+    std::pair<const Paragraph *, qsizetype> letterAt(QPointF point);
+    std::optional<QUrl> addressAt(QPointF point);
+    std::optional<qsizetype> markAt(QPointF point);
     void forget();
     /// Lays out paragraphs from the first on until one ends below `bottom`.
     void layOutTo(qreal bottom);
@@ -76,9 +97,16 @@ private:
     qreal topOfLine(int line);
     void scrollToLine(int line);
     qreal visibleHeight() const;
+    /// What is marked, as this paragraph counts.
+    QList<QTextLayout::FormatRange> marksOf(const Paragraph &paragraph) const;
     void paintMoreMark(QPainter &painter) const;
 
     QString m_shown;
+    struct
+    {
+        qsizetype start = 0;
+        qsizetype length = 0;
+    } m_found;
     QColor m_ink = Qt::black;
     std::vector<Paragraph> m_paragraphs;
     qsizetype m_next = 0; ///< Where the first paragraph that is not laid out begins.
