@@ -90,6 +90,7 @@ public:
     QString lastSearch; ///< What was looked for last; with it F3 goes on.
     /// A write failed and the user has been told; told again only after one has succeeded.
     bool saveFailureTold = false;
+    QString owedFailure; ///< Why a save failed; told when no batch is open.
     /// Said after the user has deleted a note; for whoever offers to take that back.
     std::function<void(const DeletedNote &)> noteDeleted;
     /// By tag: the picture file that could not be read, which is told once a run.

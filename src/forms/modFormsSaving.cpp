@@ -29,15 +29,26 @@ void tellFailure(Program &program, const QString &reason)
     program.prompts().tell({text.arg(reason), QStringLiteral("Error"), Message::Icon::Critical}, nullptr);
 }
 
-void tellOfForeignFiles(Program &program)
+void tellOfForeignFiles(Program &program, const QStringList &kept)
 {
-    const QStringList kept = std::exchange(program.file.keptMeanwhile, {});
-    if (kept.isEmpty() || program.Exiting)
-        return;
     const QString text = QCoreApplication::translate(
         "Saving",
         "Another program had changed the file of the notes.\nIts version was kept, before this one was saved:\n");
     program.prompts().tell({text + kept.join(u'\n'), QStringLiteral("Quillets"), Message::Icon::Exclamation}, nullptr);
+}
+
+/// What came of a save, said last: while a box is open anything can happen to the notes. Inside a batch it waits for
+/// the end.
+void tellOwed(Program &program)
+{
+    if (program.file.batchDepth > 0)
+        return;
+    const QString reason = std::exchange(program.owedFailure, {});
+    const QStringList kept = std::exchange(program.file.keptMeanwhile, {});
+    if (!reason.isEmpty())
+        tellFailure(program, reason);
+    if (!kept.isEmpty() && !program.Exiting)
+        tellOfForeignFiles(program, kept);
 }
 
 void updateRecords(const Program &program)
@@ -52,21 +63,29 @@ void keepOrder(Program &program)
         stack->keepOrder();
 }
 
-/// The end of a batch: notes that are not on the disk count as changed again, and why is told.
+void saved(Program &program)
+{
+    if (program.file.readOnlyReason.isEmpty() && program.owedFailure.isEmpty())
+        program.saveFailureTold = false;
+    keepOrder(program);
+}
+
+/// The end of a batch, which is written even inside another one: what keeps that one open may stay for hours. Notes
+/// that are not on the disk count as changed again.
 void finish(Program &program, SaveBatch &batch)
 {
-    const auto outcome = batch.end();
+    auto outcome = batch.end();
+    if (outcome)
+        outcome = modFileIO::flush(program.file);
     if (outcome) {
-        if (program.file.readOnlyReason.isEmpty())
-            program.saveFailureTold = false;
-        keepOrder(program);
-        tellOfForeignFiles(program);
-        return;
+        saved(program);
+    } else {
+        for (const qint32 tag : program.file.image.tagsNotIn(program.file.disk))
+            if (clsNoteProps *note = program.forms.recordOf(tag))
+                note->SaveTag = 1;
+        program.owedFailure = outcome.error();
     }
-    for (const qint32 tag : program.file.image.tagsNotIn(program.file.disk))
-        if (clsNoteProps *note = program.forms.recordOf(tag))
-            note->SaveTag = 1;
-    tellFailure(program, outcome.error());
+    tellOwed(program);
 }
 
 /// Saves all notes as they are, one write at the end. `goesOn` is asked before each.
@@ -122,20 +141,19 @@ void saveNote(Program &program, clsNoteProps &note)
     const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, NoteFate::Keep);
     if (result.kind == Written || result.kind == Batched)
         note.SaveTag = 0;
-    if (result.kind == Written) {
-        program.saveFailureTold = false;
-        keepOrder(program);
-    }
+    if (result.kind == Written)
+        saved(program);
     if (result.kind == Failed)
-        tellFailure(program, result.reason);
-    tellOfForeignFiles(program);
+        program.owedFailure = result.reason;
+    tellOwed(program);
 }
 
 void removeNote(Program &program, const clsNoteProps &note)
 {
     const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, NoteFate::Remove);
     if (result.kind == WriteResult::Kind::Failed)
-        tellFailure(program, result.reason);
+        program.owedFailure = result.reason;
+    tellOwed(program);
 }
 
 bool SaveAllNotes(Program &program)
@@ -166,6 +184,8 @@ void rescueNotes(Program &program)
     SaveBatch batch(program.file);
     for (const qint32 tag : unsavedTags(program))
         static_cast<void>(modFileIO::WriteNoteRecord(program.file, *program.forms.recordOf(tag), NoteFate::Keep));
+    static_cast<void>(batch.end());
+    static_cast<void>(modFileIO::flush(program.file));
 }
 
 void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags,

@@ -167,7 +167,7 @@ WriteResult modFileIO::WriteNoteRecord(DataFileState &state, const clsNoteProps 
 
 Outcome<Done, QString> modFileIO::flush(DataFileState &state)
 {
-    if (!state.unsaved || state.LoadingData || state.batchDepth > 0)
+    if (!state.unsaved || state.LoadingData)
         return Done{};
     if (auto takenUp = takeUpUnread(state); !takenUp)
         return takenUp;
@@ -184,5 +184,5 @@ void modFileIO::beginBatch(DataFileState &state)
 Outcome<Done, QString> modFileIO::endBatch(DataFileState &state)
 {
     --state.batchDepth;
-    return flush(state);
+    return state.batchDepth > 0 ? Done{} : flush(state);
 }

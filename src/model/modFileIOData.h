@@ -63,7 +63,7 @@ WriteResult WriteNoteRecord(DataFileState &state, const clsNoteProps &note, Note
 /// Of a data file that was just read or written with these bytes.
 DataFileState::Stamp stampOf(const QString &path, QByteArrayView bytes);
 
-/// Writes the image if the disk is behind it. During a load and inside a batch nothing happens.
+/// Writes the image if the disk is behind it, inside a batch too. During a load nothing happens.
 Outcome<Done, QString> flush(DataFileState &state);
 
 // Between these two, which nest, notes change only the image; the outermost end writes the file once.

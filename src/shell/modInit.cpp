@@ -50,6 +50,11 @@ void tellFatal(Prompts &prompts, const QString &text)
     prompts.tell({text, QStringLiteral("Fatal Program Error"), Message::Icon::Critical}, nullptr);
 }
 
+void tellSecondInstance(Prompts &prompts)
+{
+    tellFatal(prompts, QStringLiteral("You cannot have more than one instance of Quillets running."));
+}
+
 DesignLook designLook()
 {
     const QFont font = QApplication::font();
@@ -111,6 +116,12 @@ int run(Program &program)
     splash->setStatus(QStringLiteral("Loading program ... "));
     splash->show();
     prepareDataFolder(program);
+    SingleInstance folderLock(program.paths().LockFile);
+    if (!folderLock.acquire()) {
+        delete splash;
+        tellSecondInstance(program.prompts());
+        return 1;
+    }
     splash->setStatus(QStringLiteral("Setting program wide defaults ... "));
     LoadProgramOptions(program);
     const QPointer<frmMenu> panel = new frmMenu(program);
@@ -211,7 +222,7 @@ int Main(int argc, char *argv[])
     SystemPrompts early;
     SingleInstance instance;
     if (!instance.acquire()) {
-        tellFatal(early, QStringLiteral("You cannot have more than one instance of Quillets running."));
+        tellSecondInstance(early);
         return 1;
     }
     const ProgramPaths paths = ProgramPaths::of(QCoreApplication::applicationDirPath(), QDir::currentPath());

@@ -28,6 +28,9 @@ private slots:
     void cancelled();
     void noteThatGoesMeanwhile();
     void endedMeanwhile();
+    void boxInsideABatch_data();
+    void boxInsideABatch();
+    void failureInsideABatchIsToldAfterIt();
     void whatIsTypedGoesAlong_data() { bothWays(); }
     void whatIsTypedGoesAlong();
     void nothingDuringTheLoad_data() { bothWays(); }
@@ -190,6 +193,44 @@ void testSaving::endedMeanwhile()
     });
     modForms::SaveAllWithProgress(m_test->program);
     QCOMPARE(stored().size(), 4);
+}
+
+void testSaving::boxInsideABatch_data()
+{
+    using Save = std::function<void(Program &)>;
+    QTest::addColumn<Save>("save");
+    QTest::newRow("save of all") << Save([](Program &program) { modForms::SaveAllNotes(program); });
+    QTest::newRow("rescue") << Save([](Program &program) { modForms::rescueNotes(program); });
+}
+
+/// A box that opens while notes are moved may stand for hours.
+void testSaving::boxInsideABatch()
+{
+    QFETCH(std::function<void(Program &)>, save);
+    makeNotes(2);
+    Program &program = m_test->program;
+    modForms::moveAll(program, {}, {1, 2}, [&](qint32 tag) {
+        modForms::saveNote(program, m_notes[size_t(tag) - 1]->record);
+        if (tag == 2)
+            return;
+        m_notes[1]->typed = u"typed meanwhile"_s;
+        save(program);
+        QCOMPARE(stored().first(), u"typed meanwhile"_s);
+    });
+    QCOMPARE(stored().size(), 2);
+}
+
+void testSaving::failureInsideABatchIsToldAfterIt()
+{
+    makeNotes(2);
+    m_home->spoilDataFile();
+    modForms::moveAll(m_test->program, {}, {1, 2}, [&](qint32 tag) {
+        modForms::SaveAllNotes(m_test->program);
+        QVERIFY(!m_test->program.owedFailure.isEmpty());
+        if (tag == 2)
+            m_test->prompts.expect(Answer::Ok);
+    });
+    QVERIFY(m_test->prompts.isDone() && changedCount() == 2);
 }
 
 void testSaving::whatIsTypedGoesAlong()

@@ -61,19 +61,20 @@ class Display:
 
 
 class Home:
-    """A working folder and a login session."""
+    """A working folder and its login sessions."""
 
     def __init__(self, display, binary, data_file):
         self.display, self._binary = display, binary
         self.folder = tempfile.mkdtemp(prefix="quillets-home-")
         self.data_file = os.path.join(self.folder, "Data", "quillets.dat")
         os.mkdir(os.path.dirname(self.data_file))
-        os.mkdir(os.path.join(self.folder, "session"), 0o700)
         shutil.copy(data_file, self.data_file)
         self._programs = []
 
-    def start(self):
-        environment = dict(self.display.environment, XDG_RUNTIME_DIR=os.path.join(self.folder, "session"))
+    def start(self, session="session"):
+        runtime = os.path.join(self.folder, session)
+        os.makedirs(runtime, 0o700, exist_ok=True)
+        environment = dict(self.display.environment, XDG_RUNTIME_DIR=runtime)
         program = Program(self.display, subprocess.Popen([self._binary], cwd=self.folder, env=environment))
         self._programs.append(program)
         return program

@@ -157,13 +157,14 @@ class TestProgram(unittest.TestCase):
         first = self.started()
         with open(self.home.data_file, "rb") as file:
             before = file.read()
-        second = self.home.start()
-        box = second.window("Fatal Program Error")
-        box.activate()
-        self.display.do("key", "Return")
-        self.assertEqual(second.exit_code(), 1)
-        with open(self.home.data_file, "rb") as file:
-            self.assertEqual(file.read(), before)
+        for session in ("session", "another session"):
+            second = self.home.start(session)
+            box = second.window("Fatal Program Error")
+            box.activate()
+            self.display.do("key", "Return")
+            self.assertEqual(second.exit_code(), 1)
+            with open(self.home.data_file, "rb") as file:
+                self.assertEqual(file.read(), before)
         self.assertEqual(len(first.notes()), 8)
         self.assertEqual(first.end(signal.SIGTERM), 0)
 
