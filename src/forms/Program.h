@@ -6,6 +6,7 @@
 #include "drawing/Twips.h"
 #include "forms/DeletedNote.h"
 #include "forms/Forms.h"
+#include "model/clsNetworkSettings.h"
 #include "model/clsNoteProps.h"
 #include "model/clsprogramoptions.h"
 #include "model/modFileIO.h"
@@ -13,6 +14,7 @@
 
 #include <QHash>
 #include <QPointer>
+#include <QSet>
 #include <QTimer>
 #include <QWidget>
 
@@ -71,6 +73,7 @@ public:
 
     clsprogramoptions DefaultOptions;
     clsprogramoptions ProgramOptions;
+    clsNetworkSettings NetworkSettings;
     clsNoteProps NewNoteDefaults;
     clsNoteProps NoteTemplate;
 
@@ -90,6 +93,8 @@ public:
     std::function<void(const DeletedNote &)> noteDeleted;
     /// By tag: the picture file that could not be read, which is told once a run.
     QHash<qint32, QString> unreadablePictures;
+    /// Tags of the notes whose next alarm makes no sound, because another's of the same burst does.
+    QSet<qint32> silentOnce;
 
 private:
     Services m_services;

@@ -8,7 +8,7 @@
 #include "forms/modFormsHiding.h"
 #include "platform/windowStacking.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPointer>
 #include <QWidget>
 
@@ -76,7 +76,7 @@ void UnhookWindow(Form &form)
 void ShowNoteWindows(Program &program)
 {
     // A dialog within a dialog leaves this to the outer one.
-    if (IsDialogShowing(program))
+    if (isAnswerAwaited(program))
         return;
     for (Form *form : program.forms.notes()) {
         QWidget *window = form->window();
@@ -91,6 +91,11 @@ bool IsDialogShowing(const Program &program)
     return std::any_of(all.begin(), all.end(), [](Form *form) {
         return !isOwnKind(*form) && form->window() != nullptr && form->window()->isVisible();
     });
+}
+
+bool isAnswerAwaited(const Program &program)
+{
+    return IsDialogShowing(program) || QApplication::activeModalWidget() != nullptr;
 }
 
 void activateNext(Program &program, Form &from)

@@ -23,10 +23,12 @@ void RemoveSystemMenuItems(QWidget &form, bool r0, bool r1, bool r2, bool r3, bo
 void HookWindow(Forms &forms, Form &form);
 void UnhookWindow(Form &form);
 /// Shows every note window that is hidden, but not those that all were hidden with; said by every dialog when it goes.
-/// Nothing while another dialog shows.
+/// Nothing while another dialog, a box or a chooser is open.
 void ShowNoteWindows(Program &program);
 /// True while a window is shown that is none of those that wait for nobody.
 bool IsDialogShowing(const Program &program);
+/// True while a person is to answer something: a dialog, a box or a chooser is open.
+bool isAnswerAwaited(const Program &program);
 /// From a note, the NoteStack, the main panel or a quiet line to the next of these windows that is shown: desktops list
 /// no notes in their window switcher.
 void activateNext(Program &program, Form &from);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/clsNetworkSettings.h"
 #include "net/MailMessage.h"
-#include "net/clsNetworkSettings.h"
 
 #include <QSslConfiguration>
 

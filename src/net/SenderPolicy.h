@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "net/clsNetworkSettings.h"
+#include "model/clsNetworkSettings.h"
 
 #include <QHostAddress>
 #include <QObject>

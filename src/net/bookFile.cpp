@@ -6,6 +6,8 @@
 #include "model/textValues.h"
 #include "model/wholeFile.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <optional>
 
@@ -73,11 +75,18 @@ QByteArray bookFile::build(const QList<BookLine> &lines)
 
 QList<BookLine> bookFile::load(const QString &path)
 {
-    const auto file = wholeFile::read(path, textFile::MaximumBytes);
+    const auto file = wholeFile::read(path, MaximumBytes);
     return file ? parse(file.value()) : QList<BookLine>();
+}
+
+bool bookFile::isMarked(const QString &path)
+{
+    constexpr QByteArrayView Mark("\xEF\xBB\xBF");
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(Mark.size()) == Mark;
 }
 
 Outcome<Done, QString> bookFile::save(const QString &path, const QList<BookLine> &lines)
 {
-    return wholeFile::replace(path, build(lines));
+    return wholeFile::replaceReadable(path, build(lines), MaximumBytes);
 }

@@ -44,6 +44,24 @@ QString bookRules::substituteName(qsizetype place)
     return Texts::tr("New%1").arg(place + 1);
 }
 
+std::optional<UnwritableAlias> bookRules::unwritable(const QList<BookLine> &lines, bool isMarked)
+{
+    if (isMarked)
+        return std::nullopt;
+    for (const BookLine &line : lines) {
+        const QString text = line.alias + line.addresses;
+        const auto wide = std::find_if(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0xFF; });
+        if (wide == text.end())
+            continue;
+        const qsizetype length = wide->isHighSurrogate() ? 2 : 1;
+        const QString shown = text.mid(wide - text.begin(), length);
+        return UnwritableAlias{line.alias, error(Texts::tr("The book cannot hold the character \"%1\" of the alias "
+                                                           "\"%2\".\nPlease write it in another way.")
+                                                     .arg(shown, line.alias))};
+    }
+    return std::nullopt;
+}
+
 Notice bookRules::noAlias()
 {
     return error(Texts::tr("Please add an alias name before proceeding."));

@@ -19,6 +19,13 @@ struct BookAlias
     bool operator==(const BookAlias &) const = default;
 };
 
+/// An alias that no book file can hold.
+struct UnwritableAlias
+{
+    QString alias;
+    Notice notice;
+};
+
 /// What the editor of the books refuses, and what it says.
 namespace bookRules
 {
@@ -31,6 +38,10 @@ template <class Entry> QList<BookAlias> aliasesOf(const QList<Entry> &entries, Q
 std::optional<Notice> refusal(const QString &name, const QStringList &names, qsizetype place);
 /// The name that an alias gets instead of an empty one; the place is 0-based.
 QString substituteName(qsizetype place);
+
+/// The first alias with a character that would not be in the file as it was typed. A file that is marked as UTF-8 holds
+/// all characters, others those below 256.
+std::optional<UnwritableAlias> unwritable(const QList<BookLine> &lines, bool isMarked);
 
 Notice noAlias();   ///< Addresses are typed before there is an alias.
 Notice noAddress(); ///< An alias without addresses is selected.

@@ -25,10 +25,8 @@ constexpr ButtonStrip::Button Buttons[] = {
 NoteToolbar::NoteToolbar(const Pictures &pictures, QWidget *note)
     : ButtonStrip(pictures, QStringLiteral("fraButtons"), Buttons, DatePoints, note)
 {
-    for (const NoteCommand command : {NoteCommand::Email, NoteCommand::Send}) {
-        button(command).setEnabled(false);
-        button(command).setToolTip(tr("Not in this version yet."));
-    }
+    button(NoteCommand::Email).setEnabled(false);
+    button(NoteCommand::Email).setToolTip(tr("Not in this version yet."));
 }
 
 PictureButton &NoteToolbar::button(NoteCommand command)

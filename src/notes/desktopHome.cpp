@@ -62,6 +62,8 @@ const HomeRules DesktopHome{
                        QT_TRANSLATE_NOOP("NoteAction", "Deletion Error")},
     .refusedDeletion = {QT_TRANSLATE_NOOP("NoteAction", "Invalid authentication.  Quillet deletion failed."),
                         QT_TRANSLATE_NOOP("NoteAction", "Deletion failed")},
+    .captions = {QT_TRANSLATE_NOOP("noteDialogs", "Send '%1' - Quillets"),
+                 QT_TRANSLATE_NOOP("noteDialogs", "E-mail '%1' - Quillets")},
     .lineEnd = notePrinting::LineEnd::BehindLimit,
     .move =
         [](Program &program, const clsNoteProps &record, Lid lid) {

@@ -130,7 +130,7 @@ void frmNote::ApplyNoteAppearance()
     noteDressing::dressPicture(m_program, m_note.record, m_note.body, this);
 }
 
-void frmNote::ApplyNoteState(NoteCreateMode)
+void frmNote::ApplyNoteState(NoteCreateMode mode)
 {
     clsNoteProps &record = m_note.record;
     windowStacking::SetWindowOnTop(*this, record.OnTopOn);
@@ -144,7 +144,9 @@ void frmNote::ApplyNoteState(NoteCreateMode)
         lockform();
     const QPointer<frmNote> self = this;
     noteDressing::checkSound(m_program, record, this);
-    if (self != nullptr && !isUnloaded())
+    // A note that comes from elsewhere is silent while it is hidden.
+    const bool isLater = mode == NoteCreateMode::Load && modForms::isAnswerAwaited(m_program);
+    if (self != nullptr && !isUnloaded() && !isLater)
         m_note.alarm.ArmNoteAlarm();
 }
 

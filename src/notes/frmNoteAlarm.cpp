@@ -15,7 +15,8 @@ void frmNote::signalAlarm()
     comeBack();
     if (m_note.record.FlashOn)
         m_flash.StartFlashing(colours::fromLong(m_note.record.BackColor));
-    if (m_note.record.SoundFileOn)
+    const bool isSilent = m_program.silentOnce.remove(Tag());
+    if (m_note.record.SoundFileOn && !isSilent)
         PlayAlarmSound();
 }
 

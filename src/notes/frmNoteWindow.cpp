@@ -60,6 +60,8 @@ void frmNote::enterEvent(QEnterEvent *event)
 void frmNote::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    if (m_place.isReady())
+        m_note.alarm.ArmNoteAlarm();
     QMetaObject::invokeMethod(
         this, [this] { windowStacking::skipTaskBar(*this); }, Qt::QueuedConnection);
 }

@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/whenAnswered.h"
 #include "notes/NotePlacement.h"
 #include "notes/desktopHome.h"
 #include "notes/frmNote.h"
@@ -44,11 +45,11 @@ NotePlacement placementOf(const Program &program, const clsNoteProps &record)
     return NotePlacement::of(record, program.twips, screens(), fallback, cascadeStart(program), record.Tag - 1);
 }
 
-/// Shows a note that is dressed, unless a dialog is open: the dialog shows it when it goes.
+/// Shows a note that is dressed, unless something is to be answered first: it is shown after that.
 void showNote(Program &program, frmNote &note, NoteCreateMode mode)
 {
-    if (modForms::IsDialogShowing(program))
-        return;
+    if (modForms::isAnswerAwaited(program))
+        return whenAnswered(program, &note, [&program] { modForms::ShowNoteWindows(program); });
     note.show();
     if (mode != NoteCreateMode::New)
         return;

@@ -36,8 +36,7 @@ StackToolbar::StackToolbar(const Pictures &pictures, QWidget *parent)
     : ButtonStrip(pictures, QStringLiteral("fraToolBar"), Buttons, StatusPoints, parent)
 {
     setPause(Pause);
-    for (const Command command : {Command::Email, Command::Send})
-        setUnavailable(static_cast<size_t>(command), tr("Not in this version yet."));
+    setUnavailable(static_cast<size_t>(Command::Email), tr("Not in this version yet."));
 }
 
 NoteCommand StackToolbar::noteCommand(Command command)

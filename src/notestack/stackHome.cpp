@@ -59,6 +59,8 @@ const HomeRules StackHome{
                        QT_TRANSLATE_NOOP("NoteAction", "Deletion Error")},
     .refusedDeletion = {QT_TRANSLATE_NOOP("NoteAction", "Authentication invalid.  Deletion failed."),
                         QT_TRANSLATE_NOOP("NoteAction", "Deletion Failed")},
+    .captions = {QT_TRANSLATE_NOOP("noteDialogs", "Sending note '%1' - Quillets"),
+                 QT_TRANSLATE_NOOP("noteDialogs", "E-mail note '%1' - Quillets")},
     .lineEnd = notePrinting::LineEnd::BeforeLimit,
     .move = modCreateNote::moveToDesktop,
 };

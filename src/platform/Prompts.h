@@ -33,6 +33,8 @@ struct Message
     Icon icon = Icon::None;
     Buttons buttons = Buttons::Ok;
     Enter enter = Enter::Ok;
+    QString details{}; ///< For who asks for them by a button of the box; it is not there without.
+    QString second{};  ///< Caption of another button beside OK; empty: there is none.
 
     bool operator==(const Message &) const = default;
 };
@@ -45,7 +47,8 @@ public:
     enum class Answer
     {
         Ok,
-        Cancel
+        Cancel,
+        Second
     };
 
     Prompts() = default;

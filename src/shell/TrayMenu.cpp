@@ -51,7 +51,8 @@ void TrayMenu::setVisible(bool visible)
     m_icon->setVisible(visible);
 }
 
-void TrayMenu::setCount(int notes)
+void TrayMenu::setCount(int notes, const QString &news)
 {
-    m_icon->setTip(notes == 1 ? tr("Quillets\n1 note") : tr("Quillets\n%1 notes").arg(notes));
+    const QString count = notes == 1 ? tr("Quillets\n1 note") : tr("Quillets\n%1 notes").arg(notes);
+    m_icon->setTip(news.isEmpty() ? count : count + u'\n' + news);
 }

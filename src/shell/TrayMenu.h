@@ -20,8 +20,8 @@ public:
     TrayMenu(const QIcon &icon, QWidget *panel);
 
     void setVisible(bool visible);
-    /// Tells how many notes there are.
-    void setCount(int notes);
+    /// Tells how many notes there are, and below that what is new, if anything.
+    void setCount(int notes, const QString &news);
 
 signals:
     void commanded(PanelCommand command);

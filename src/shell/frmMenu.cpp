@@ -10,6 +10,8 @@
 #include "shell/PanelLogo.h"
 #include "shell/PanelRow.h"
 #include "shell/ProgramKeys.h"
+#include "shell/ReceivedLine.h"
+#include "shell/ReceivedNotes.h"
 #include "shell/TrayMenu.h"
 
 #include <QCloseEvent>
@@ -50,7 +52,9 @@ constexpr std::array<Row, 8> Rows{{
 
 } // namespace
 
-frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this)
+frmMenu::frmMenu(Program &program)
+    : Form(program.forms, formNames::Menu.toString()), m_program(program), m_drag(*this),
+      m_received(new ReceivedNotes(program, this))
 {
     setObjectName(formName());
     setWindowTitle(tr("Menu - Quillets"));
@@ -61,6 +65,7 @@ frmMenu::frmMenu(Program &program) : Form(program.forms, formNames::Menu.toStrin
     makeRows();
     makeGrip();
     makeTray();
+    makeReceived();
     makeShortcuts();
 }
 
@@ -102,6 +107,7 @@ void frmMenu::makeRows()
 void frmMenu::makeShortcuts()
 {
     setTabOrder(m_rows.back(), m_logo);
+    setTabOrder(m_logo, m_receivedLine);
     m_rows.front()->setFocus();
     connect(new ProgramKeys(this), &ProgramKeys::commanded, this, &frmMenu::runFromKeys);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { run(PanelCommand::Help); });
@@ -123,6 +129,26 @@ void frmMenu::makeTray()
     connect(m_tray, &TrayMenu::commanded, this, &frmMenu::runFromTray);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &frmMenu::comeBackWithoutTray);
     m_program.forms.changed = [this] { QMetaObject::invokeMethod(this, &frmMenu::showTip, Qt::QueuedConnection); };
+}
+
+void frmMenu::makeReceived()
+{
+    m_receivedLine = new ReceivedLine(m_program, *m_received, this);
+    connect(m_received, &ReceivedNotes::changed, this, [this] {
+        ResizeForm();
+        showTip();
+    });
+}
+
+void frmMenu::startReceiving()
+{
+    m_received->start();
+}
+
+/// The windows are closed after this.
+void frmMenu::keepPlace()
+{
+    m_received->stop();
 }
 
 void frmMenu::changeEvent(QEvent *event)
@@ -169,7 +195,7 @@ void frmMenu::showMenu()
 
 void frmMenu::showTip()
 {
-    m_tray->setCount(static_cast<int>(m_program.forms.tags().size()));
+    m_tray->setCount(static_cast<int>(m_program.forms.tags().size()), ReceivedLine::textFor(m_received->unseen()));
 }
 
 void frmMenu::closeEvent(QCloseEvent *event)

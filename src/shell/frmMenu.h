@@ -14,6 +14,8 @@ class PanelLogo;
 class PanelRow;
 class Program;
 class QLabel;
+class ReceivedLine;
+class ReceivedNotes;
 class SizeGrip;
 class TrayMenu;
 
@@ -31,7 +33,10 @@ public:
     void answerDesktop();
     /// Lays the panel out for its size.
     void ResizeForm();
+    /// Notes of other computers are received from now on.
+    void startReceiving();
     QWidget *window() override { return this; }
+    void keepPlace() override;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -47,6 +52,7 @@ private:
     void makeTray();
     void makeGrip();
     void makeShortcuts();
+    void makeReceived();
     void layOutLogo(int width);
     void run(PanelCommand command);
     void runInPlace(PanelCommand command);
@@ -69,6 +75,8 @@ private:
     QLabel *m_about = nullptr;
     SizeGrip *m_grip = nullptr; // imgResize
     TrayMenu *m_tray = nullptr;
+    ReceivedNotes *m_received;
+    ReceivedLine *m_receivedLine = nullptr;
     bool m_refusing = false;   ///< The box of a refused command is open.
     bool m_pressGuard = false; ///< A command is under way.
     bool m_inTray = false;     ///< Hidden, with the icon as the way back.

@@ -12,6 +12,7 @@
 #include "platform/Prompts.h"
 #include "platform/windowStacking.h"
 #include "shell/PanelMenu.h"
+#include "shell/ReceivedNotes.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMenu.h"
 #include "shell/modInitEnd.h"
@@ -161,6 +162,7 @@ void frmMenu::openOptions()
     if (!showModally(dialog))
         return;
     dialog->OptionsResult(m_program.ProgramOptions);
+    m_received->settingsChanged();
     dialog->unload();
     if (isVisible())
         windowStacking::SetForegroundWindow(*this);

@@ -3,6 +3,7 @@
 #include "controls/SizeGrip.h"
 #include "shell/PanelLogo.h"
 #include "shell/PanelRow.h"
+#include "shell/ReceivedLine.h"
 #include "shell/frmMenu.h"
 
 namespace
@@ -21,14 +22,18 @@ void frmMenu::ResizeForm()
 {
     const QSize picture = m_rows.front()->pictureSize();
     const int pictureLeft = width() / 2 - picture.width() / 2;
-    const int rowHeight = qMin(RowHeight, height() / static_cast<int>(Commands));
-    int top = (height() - rowHeight * static_cast<int>(Commands)) / 2;
+    const int foot = m_receivedLine->isVisibleTo(this) ? m_receivedLine->sizeHint().height() : 0;
+    const int rowHeight = qMin(RowHeight, (height() - foot) / static_cast<int>(Commands));
+    int top = qMin((height() - rowHeight * static_cast<int>(Commands)) / 2,
+                   height() - foot - rowHeight * static_cast<int>(Commands));
     for (PanelRow *row : m_rows) {
         const int left = pictureLeft - RowReach;
         row->layOut(QRect(left, top, width() - left - RowReach, rowHeight), pictureLeft);
         top += rowHeight;
     }
     layOutLogo(pictureLeft - RowReach);
+    m_receivedLine->setGeometry(pictureLeft, height() - foot,
+                                qMin(m_receivedLine->sizeHint().width(), width() - pictureLeft - GripSide), foot);
     m_grip->setGeometry(width() - GripSide, height() - GripSide, GripSide, GripSide);
 }
 

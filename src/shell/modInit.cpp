@@ -8,6 +8,7 @@
 #include "forms/modFormsSaving.h"
 #include "forms/modTimers.h"
 #include "model/modFileIOFolder.h"
+#include "model/networkSettingsFile.h"
 #include "model/version.h"
 #include "notes/modCreateNote.h"
 #include "notestack/frmNoteStack.h"
@@ -135,6 +136,7 @@ int run(Program &program)
         stack->show();
     // When what was started is on the screen.
     QTimer::singleShot(0, panel, &frmMenu::answerDesktop);
+    QMetaObject::invokeMethod(panel, &frmMenu::startReceiving, Qt::QueuedConnection);
     const int result = QApplication::exec();
     delete panel;
     return result;
@@ -166,6 +168,7 @@ void LoadProgramOptions(Program &program)
     program.ProgramOptions = program.DefaultOptions;
     clsprogramoptions &options = program.ProgramOptions;
     modFileIO::LoadOptionsFile(program.paths(), options);
+    program.NetworkSettings = networkSettingsFile::load(networkSettingsFile::pathIn(program.paths().DataFolder));
     checkFile(program, options.SoundFileOn, options.SoundFile, QStringLiteral("The sound "),
               QStringLiteral("Disabling sound file."));
     checkFile(program, options.BackPicOn, options.PicFile, QStringLiteral("The image "),

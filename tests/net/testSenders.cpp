@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "model/networkSettingsFile.h"
 #include "net/SenderPace.h"
 #include "net/SenderPolicy.h"
-#include "net/networkSettingsFile.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -128,7 +128,7 @@ void testSenders::settings()
 void testSenders::settingsFile()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QString::fromUtf16(networkSettingsFile::FileName));
+    const QString path = networkSettingsFile::pathIn(folder.path());
     QVERIFY(networkSettingsFile::load(path) == clsNetworkSettings());
     const clsNetworkSettings all{Senders::Nobody, true, {u"10.0.0.1"_s, u"fe80::9"_s}, true,
                                  Security::Tls,   465,  u"\u0141ukasz@post"_s};

@@ -8,7 +8,6 @@
 #include "notes/commands/LiveNote.h"
 #include "notes/commands/NoteHost.h"
 #include "notes/commands/noteClipboard.h"
-#include "notes/commands/noteDialogs.h"
 #include "notes/commands/noteEditing.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
@@ -114,7 +113,7 @@ void NoteAction::openDialog(NoteCommand command) const
     host()->commitEditsOf(m_tag);
     if (noteLocks::checkAccess(m_program, clsNoteProps(note()->record), noteDialogs::failure(*dialog), m_owner) &&
         note() != nullptr && !note()->locked)
-        dialog->open(m_program, m_tag, m_owner);
+        dialog->open(m_program, m_tag, m_owner, m_home.captions);
 }
 
 void NoteAction::editText(const QString &typed) const

@@ -5,6 +5,7 @@
 #include "forms/NoteHolder.h"
 #include "notes/commands/LinesOnPaper.h"
 #include "notes/commands/NoteMenu.h"
+#include "notes/commands/noteDialogs.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -36,6 +37,7 @@ struct HomeRules
     Said refusedMove;
     Said lockedDeletion;
     Said refusedDeletion;
+    noteDialogs::Captions captions;
     notePrinting::LineEnd lineEnd; ///< Of lines that are too wide for the paper.
     /// Puts the note into the other home.
     void (*move)(Program &program, const clsNoteProps &record, Lid lid);

@@ -24,8 +24,7 @@ NoteMenu *NoteMenus::make(const QString &name, std::span<const MenuEntry> entrie
         m_open = false;
         emit chosen(command);
     });
-    for (const NoteCommand command : {Send, Email})
-        menu->setUnavailable(command, tr("Not in this version yet."));
+    menu->setUnavailable(Email, tr("Not in this version yet."));
     return menu;
 }
 

@@ -5,6 +5,7 @@
 #include "alarms/frmAlarmSettings.h"
 #include "dialogs/frmSettings.h"
 #include "drawing/textShortening.h"
+#include "exchange/frmSend.h"
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/modFormsSaving.h"
@@ -50,25 +51,37 @@ void open(Program &program, qint32 tag, QWidget *owner, const Prepare &prepare, 
         holder->recordChanged(tag);
 }
 
-void openSettings(Program &program, qint32 tag, QWidget *owner)
+/// Names the note in the dialog's caption.
+auto captioned(const char *caption)
 {
-    const auto caption = [](frmSettings &dialog, const clsNoteProps &record) {
+    return [caption](QWidget &dialog, const clsNoteProps &record) {
         const QString title =
             textShortening::shortened(noteTitles::title(record), dialog.sizeHint().width() / 3, NoteTitle::font());
-        dialog.setWindowTitle(QCoreApplication::translate("noteDialogs", "Settings for '%1' - Quillets").arg(title));
+        dialog.setWindowTitle(QCoreApplication::translate("noteDialogs", caption).arg(title));
     };
-    open<frmSettings>(program, tag, owner, caption,
+}
+
+constexpr auto TakeNothing = [](const auto &, const clsNoteProps &) { return false; };
+
+void openSettings(Program &program, qint32 tag, QWidget *owner, const Captions &)
+{
+    open<frmSettings>(program, tag, owner, captioned(QT_TRANSLATE_NOOP("noteDialogs", "Settings for '%1' - Quillets")),
                       [](frmSettings &dialog, clsNoteProps &record) { return dialog.SettingsResult(record); });
 }
 
-void openAlarm(Program &program, qint32 tag, QWidget *owner)
+void openSend(Program &program, qint32 tag, QWidget *owner, const Captions &captions)
+{
+    open<frmSend>(program, tag, owner, captioned(captions.send), TakeNothing);
+}
+
+void openAlarm(Program &program, qint32 tag, QWidget *owner, const Captions &)
 {
     open<frmAlarmSettings>(
         program, tag, owner, [](const auto &, const auto &) {},
         [](frmAlarmSettings &dialog, clsNoteProps &record) { return dialog.AlarmResult(record); });
 }
 
-void openPassword(Program &program, qint32 tag, QWidget *owner)
+void openPassword(Program &program, qint32 tag, QWidget *owner, const Captions &)
 {
     open<frmPwdSettings>(
         program, tag, owner, [](const auto &, const auto &) {},
@@ -80,6 +93,7 @@ constexpr NoteDialog Dialogs[] = {
     {NoteCommand::Settings, QT_TRANSLATE_NOOP("noteDialogs", "Access to Settings failed."), openSettings},
     {NoteCommand::Alarm, QT_TRANSLATE_NOOP("noteDialogs", "Access to Alarm functions failed."), openAlarm},
     {NoteCommand::Password, QT_TRANSLATE_NOOP("noteDialogs", "Access to Password functions failed."), openPassword},
+    {NoteCommand::Send, QT_TRANSLATE_NOOP("noteDialogs", "Access to Send functions failed."), openSend},
 };
 
 } // namespace

@@ -12,11 +12,19 @@ class QWidget;
 namespace noteDialogs
 {
 
+/// Captions that differ between the homes of a note, with the title for %1; to be translated in the context
+/// "noteDialogs".
+struct Captions
+{
+    const char *send;
+    const char *email;
+};
+
 struct NoteDialog
 {
     NoteCommand command;
     const char *failure; ///< Said when the password of a read-only note was wrong.
-    void (*open)(Program &program, qint32 tag, QWidget *owner);
+    void (*open)(Program &program, qint32 tag, QWidget *owner, const Captions &captions);
 };
 
 /// Null for a command that opens none.

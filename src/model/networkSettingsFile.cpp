@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "net/networkSettingsFile.h"
+#include "model/networkSettingsFile.h"
 
 #include "model/textFile.h"
 #include "model/textValues.h"
@@ -110,6 +110,11 @@ void applyLine(clsNetworkSettings &settings, QStringView line)
 
 } // namespace
 
+QString networkSettingsFile::pathIn(const QString &dataFolder)
+{
+    return dataFolder + u"/network.set"_s;
+}
+
 clsNetworkSettings networkSettingsFile::load(const QString &path)
 {
     const auto file = wholeFile::read(path, textFile::MaximumBytes);
@@ -118,7 +123,7 @@ clsNetworkSettings networkSettingsFile::load(const QString &path)
 
 Outcome<Done, QString> networkSettingsFile::save(const QString &path, const clsNetworkSettings &settings)
 {
-    return wholeFile::replace(path, build(settings));
+    return wholeFile::replaceReadable(path, build(settings), textFile::MaximumBytes);
 }
 
 clsNetworkSettings networkSettingsFile::parse(const QByteArray &bytes)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/Outcome.h"
-#include "net/clsNetworkSettings.h"
+#include "model/clsNetworkSettings.h"
 
 #include <QByteArray>
 
@@ -11,8 +11,7 @@
 namespace networkSettingsFile
 {
 
-inline constexpr char16_t FileName[] = u"network.set"; ///< In the data folder.
-
+QString pathIn(const QString &dataFolder);
 /// What is missing or unreadable keeps its built-in value; so does a value that cannot be.
 clsNetworkSettings load(const QString &path);
 /// The error is the reason; the file is as it was then.
