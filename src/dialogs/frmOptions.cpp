@@ -4,9 +4,11 @@
 
 #include "alarms/AttentionGroup.h"
 #include "dialogs/AppearancePage.h"
+#include "dialogs/NetworkGroups.h"
 #include "forms/Program.h"
 #include "model/modCopyObject.h"
 #include "model/modFileIOOptions.h"
+#include "model/networkSettingsFile.h"
 #include "platform/Prompts.h"
 #include "platform/autostart.h"
 
@@ -42,11 +44,18 @@ frmOptions::frmOptions(Program &program, QWidget *owner)
     QPushButton *defaults = addButtons()->addButton(tr("Defa&ults"), QDialogButtonBox::ResetRole);
     defaults->setObjectName(QStringLiteral("cmdDefaults"));
     defaults->setAutoDefault(false);
-    connect(defaults, &QPushButton::clicked, this, [this] { Initialize(this->program().DefaultOptions); });
+    connect(defaults, &QPushButton::clicked, this, &frmOptions::setDefaults);
+}
+
+void frmOptions::setDefaults()
+{
+    Initialize(program().DefaultOptions);
+    m_network->setDefaults();
 }
 
 void frmOptions::Initialize(const clsprogramoptions &options)
 {
+    m_network->setSettings(program().NetworkSettings);
     modCopyObject::CopyOptions(options, m_options);
     m_atLogIn = autostart::isOn();
     for (const auto &fill : m_fill)
@@ -61,7 +70,12 @@ bool frmOptions::OptionsResult(clsprogramoptions &options)
         return false;
     modCopyObject::CopyOptions(m_options, options);
     program().BuildNoteDefaults();
-    const auto saved = modFileIO::SaveOptionsFile(program().paths(), options);
+    const bool isNetworkChanged = program().NetworkSettings != m_network->settings();
+    program().NetworkSettings = m_network->settings();
+    auto saved = modFileIO::SaveOptionsFile(program().paths(), options);
+    if (saved && isNetworkChanged)
+        saved = networkSettingsFile::save(networkSettingsFile::pathIn(program().paths().DataFolder),
+                                          program().NetworkSettings);
     if (!saved)
         program().prompts().tell(
             {tr("The options could not be saved.\n%1").arg(saved.error()), tr("Error"), Message::Icon::Critical}, this);

@@ -9,13 +9,15 @@
 
 class AppearancePage;
 class AttentionGroup;
+class NetworkGroups;
 class NumberBox;
 class QFormLayout;
 class QGroupBox;
 class QLayout;
 class QLineEdit;
 
-/// The program-wide options. Works on its own copy; the live options get it from OptionsResult alone.
+/// The program-wide options and the network settings. Works on its own copy; the live ones get it from OptionsResult
+/// alone.
 class frmOptions final : public TabbedDialog
 {
     Q_OBJECT
@@ -23,8 +25,9 @@ class frmOptions final : public TabbedDialog
 public:
     frmOptions(Program &program, QWidget *owner);
 
-    /// Copies the options when OK was chosen, rebuilds what new notes start from and saves the options file; a file
-    /// that cannot be written is told. To be called with the program's own options.
+    /// Copies the options when OK was chosen, rebuilds what new notes start from and saves the options file, and
+    /// that of the network where it has changed; what cannot be written is told. To be called with the program's own
+    /// options.
     bool OptionsResult(clsprogramoptions &options);
     void Initialize(const clsprogramoptions &options);
 
@@ -32,6 +35,7 @@ protected:
     std::optional<Flaw> findFlaw() override;
 
 private:
+    void setDefaults();
     // frmOptionsPages.cpp
     QWidget *makeGeneral();
     QGroupBox *makePersonal();
@@ -58,4 +62,5 @@ private:
     QWidget *m_emailAddress = nullptr;         // txtEmailAddress
     AppearancePage *m_appearance;
     AttentionGroup *m_attention = nullptr;
+    NetworkGroups *m_network = nullptr;
 };

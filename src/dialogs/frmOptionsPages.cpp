@@ -5,7 +5,9 @@
 #include "controls/FileButton.h"
 #include "controls/NumberBox.h"
 #include "controls/fileChoosing.h"
+#include "dialogs/NetworkGroups.h"
 #include "dialogs/frmOptions.h"
+#include "dialogs/pageLayout.h"
 #include "forms/Program.h"
 #include "model/textFile.h"
 #include "platform/autostart.h"
@@ -20,59 +22,12 @@
 #include <cmath>
 #include <limits>
 
+using namespace pageLayout;
+
 namespace
 {
 
-constexpr int Spacing = 12;
-constexpr int NumberWidth = 90;
 constexpr double TwipsPerInch = 1440.0;
-constexpr int HighestPort = 65535;
-
-QVBoxLayout *column(QWidget *page, int spacing)
-{
-    auto *layout = new QVBoxLayout(page);
-    layout->setSpacing(spacing);
-    return layout;
-}
-
-QWidget *pageOf(QWidget *dialog, std::initializer_list<QWidget *> groups)
-{
-    auto *page = new QWidget(dialog);
-    QVBoxLayout *layout = column(page, Spacing);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QWidget *group : groups)
-        layout->addWidget(group);
-    layout->addStretch();
-    return page;
-}
-
-QFormLayout *rowsOf(QWidget *group)
-{
-    auto *rows = new QFormLayout(group);
-    rows->setHorizontalSpacing(Spacing);
-    rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    return rows;
-}
-
-/// Lets the fields of all begin at one line.
-void alignFields(std::initializer_list<QFormLayout *> forms)
-{
-    int widest = 0;
-    for (const QFormLayout *rows : forms)
-        for (int row = 0; row < rows->rowCount(); ++row)
-            if (const QLayoutItem *caption = rows->itemAt(row, QFormLayout::LabelRole))
-                widest = std::max(widest, caption->sizeHint().width());
-    for (const QFormLayout *rows : forms)
-        rows->itemAt(0, QFormLayout::LabelRole)->widget()->setMinimumWidth(widest);
-}
-
-QLabel *hint(const QString &text, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
 
 std::optional<double> toInches(const QString &text)
 {
@@ -80,14 +35,6 @@ std::optional<double> toInches(const QString &text)
     const double inches = QString(text).replace(QLocale().decimalPoint(), QLatin1String(".")).toDouble(&isNumber);
     const bool inRange = isNumber && inches >= 0 && inches * TwipsPerInch <= double(std::numeric_limits<float>::max());
     return inRange ? std::optional(inches) : std::nullopt;
-}
-
-/// Nothing typed means that nothing is to be received.
-std::optional<double> toPort(const QString &text)
-{
-    bool isNumber = text.trimmed().isEmpty();
-    const int port = isNumber ? 0 : text.toInt(&isNumber);
-    return isNumber && port >= 0 && port <= HighestPort ? std::optional(double(port)) : std::nullopt;
 }
 
 /// Without figures that come of the division only.
@@ -222,8 +169,13 @@ QWidget *frmOptions::makeNetworking()
 {
     QGroupBox *send = makeSend();
     QGroupBox *email = makeEmail();
-    alignFields({static_cast<QFormLayout *>(send->layout()), static_cast<QFormLayout *>(email->layout())});
-    return pageOf(this, {send, email});
+    m_network = new NetworkGroups(this);
+    const std::initializer_list<QWidget *> groups{send, email, m_network->receiving(), m_network->mailServer()};
+    QList<QFormLayout *> rows;
+    for (QWidget *group : groups)
+        rows.append(static_cast<QFormLayout *>(group->layout()));
+    alignFields(rows);
+    return pageOf(this, groups);
 }
 
 QGroupBox *frmOptions::makeSend()

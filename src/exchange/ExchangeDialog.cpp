@@ -135,6 +135,7 @@ void ExchangeDialog::openBook()
     m_to->setEditText(result.isSelected ? result.alias : QString());
     m_to->lineEdit()->end(false);
     m_to->setFocus();
+    activateWindow();
     if (!result.failure.isEmpty())
         showResult(tr("The book could not be saved: %1").arg(result.failure));
 }

@@ -3,6 +3,7 @@
 #include "dialogChecks.h"
 #include "dialogs/frmOptions.h"
 #include "model/modFileIOOptions.h"
+#include "model/networkSettingsFile.h"
 #include "support/TestHome.h"
 #include "support/failOnWarnings.h"
 
@@ -49,6 +50,7 @@ private slots:
     void numbers();
     void checks_data();
     void checks();
+    void network();
     void failedSaveIsTold();
     void startAtLogIn();
 
@@ -181,6 +183,35 @@ void testOptionsDialog::checks()
     control<QTabWidget>(*m_dialog, "TabOptions").setCurrentIndex(3);
     QFETCH(QByteArray, focus);
     checkOk(*m_test, *m_dialog, caption, focus);
+}
+
+void testOptionsDialog::network()
+{
+    control<QTabWidget>(*m_dialog, "TabOptions").setCurrentIndex(3);
+    QTest::keyClick(&control<QWidget>(*m_dialog, "comAcceptFrom"), Qt::Key_Down);
+    QTest::keyClick(&control<QWidget>(*m_dialog, "comMailSecurity"), Qt::Key_End);
+    control<QCheckBox>(*m_dialog, "chkFarSenders").click();
+    QTest::keyClicks(&control<QLineEdit>(*m_dialog, "txtBlockedSenders"), u"10.0.0.1,fe80::9; "_s);
+    type(*m_dialog, "txtMailPort", u"4650"_s);
+    QTest::keyClicks(&control<QLineEdit>(*m_dialog, "txtMailUser"), u"ann@x.example"_s);
+    press(*m_dialog, "cmdOK");
+    QVERIFY(program().NetworkSettings == clsNetworkSettings());
+    QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
+    const clsNetworkSettings expected{.AcceptFrom = clsNetworkSettings::Senders::SendBook,
+                                      .FarSendersOn = true,
+                                      .BlockedSenders = {u"10.0.0.1"_s, u"fe80::9"_s},
+                                      .MailSecurity = clsNetworkSettings::Security::Tls,
+                                      .MailPort = 4650,
+                                      .MailUser = u"ann@x.example"_s};
+    QVERIFY(program().NetworkSettings == expected);
+    const QString path = networkSettingsFile::pathIn(program().paths().DataFolder);
+    QVERIFY(networkSettingsFile::load(path) == expected);
+    m_dialog->Initialize(program().ProgramOptions);
+    m_dialog->show();
+    press(*m_dialog, "cmdDefaults");
+    press(*m_dialog, "cmdOK");
+    QVERIFY(m_dialog->OptionsResult(program().ProgramOptions));
+    QVERIFY(networkSettingsFile::load(path) == clsNetworkSettings{.BlockedSenders = expected.BlockedSenders});
 }
 
 void testOptionsDialog::failedSaveIsTold()

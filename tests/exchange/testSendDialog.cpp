@@ -5,6 +5,7 @@
 #include "net/Packet.h"
 #include "net/ScriptedPeer.h"
 #include "net/machineIdentity.h"
+#include "platform/HeldKeys.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
 #include "support/answerDialog.h"
@@ -198,6 +199,7 @@ void testSendDialog::aliasFromTheBook()
         isClosed = true;
     });
     QTRY_VERIFY(isClosed);
+    QTRY_VERIFY(to().hasFocus());
     QCOMPARE(to().currentText(), QString());
 }
 
@@ -219,6 +221,12 @@ void testSendDialog::recentTargets()
 
 void testSendDialog::keysOfTheTargets()
 {
+    HeldKeys heldKeys;
+    qApp->installEventFilter(&heldKeys);
+    for (const char key : {'a', ' ', ' ', ' ', 'b'})
+        QTest::keyClick(m_dialog->windowHandle(), key);
+    QCOMPARE(to().currentText(), u"a   b"_s);
+    to().clearEditText();
     to().addItem(u"127.0.0.1@9 (recent)"_s);
     QTest::keyClicks(to().lineEdit(), u"127.0.0.1@9"_s);
     QCOMPARE(to().currentText(), u"127.0.0.1@9"_s);

@@ -63,12 +63,14 @@ class Display:
 class Home:
     """A working folder and its login sessions."""
 
-    def __init__(self, display, binary, data_file):
+    def __init__(self, display, binary, data_file, port=0):
         self.display, self._binary = display, binary
         self.folder = tempfile.mkdtemp(prefix="quillets-home-")
         self.data_file = os.path.join(self.folder, "Data", "quillets.dat")
         os.mkdir(os.path.dirname(self.data_file))
         shutil.copy(data_file, self.data_file)
+        with open(os.path.join(self.folder, "Data", "quillets.set"), "w") as options:
+            options.write(f"Listening Port = {port}\nName = Ann\n")
         self._programs = []
 
     def start(self, session="session"):

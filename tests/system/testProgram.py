@@ -5,6 +5,7 @@
 import os
 import shutil
 import signal
+import socket
 import sys
 import time
 import unittest
@@ -16,7 +17,19 @@ from desktop import until
 SKIPPED = 77
 BODY = (60, 70)
 TITLE = (60, 10)
+SEND = (70, 31)
 PANEL = "Menu - Quillets"
+
+
+def free_port():
+    with socket.socket() as probe:
+        probe.bind(("127.0.0.1", 0))
+        return probe.getsockname()[1]
+
+
+def is_open(port):
+    with socket.socket() as probe:
+        return probe.connect_ex(("127.0.0.1", port)) == 0
 
 
 class TestProgram(unittest.TestCase):
@@ -167,6 +180,47 @@ class TestProgram(unittest.TestCase):
                 self.assertEqual(file.read(), before)
         self.assertEqual(len(first.notes()), 8)
         self.assertEqual(first.end(signal.SIGTERM), 0)
+
+
+    def test_notes_travel(self):
+        port = free_port()
+        other = desktop.Home(self.display, BINARY, os.path.join(DATA, "household.dat"), port)
+        self.addCleanup(other.close)
+        receiver = other.start()
+        receiver.window(PANEL)
+        until(lambda: len(receiver.notes()) == 8, "the notes of the receiver")
+        until(lambda: is_open(port), "a receiver that listens")
+        sender = self.started()
+        note = sender.window("Shopping")
+        note.activate()
+        note.click(*SEND)
+        dialog = sender.window("Send 'Shopping' - Quillets")
+        dialog.activate()
+        self.display.do("type", "--delay", "20", f"127.0.0.1@{port},  127.0.0.1@{port} (again)")
+        self.display.do("key", "Return")
+
+        def arrived():
+            return [note for note in notefile.read(other.data_file) if note.title == "Shopping"]
+
+        until(lambda: len(arrived()) == 3, "two more notes on the disk of the receiver")
+        self.assertEqual({note.text for note in arrived()}, {self.stored_note("Shopping").text})
+        until(lambda: len(receiver.notes()) == 10, "the notes on the desktop of the receiver")
+        # What arrives while a dialog is open waits for its end.
+        options = receiver.window(PANEL)
+        options.activate()
+        self.display.do("key", "alt+o")
+        options = receiver.window("Program Options - Quillets")
+        dialog.activate()
+        self.display.do("key", "Return")
+        until(lambda: len(arrived()) == 5, "more notes on the disk of the receiver")
+        self.assertEqual(len(receiver.notes()), 10)
+        options.activate()
+        self.display.do("key", "Escape")
+        until(lambda: len(receiver.notes()) == 12, "the notes that have waited")
+        # Whoever is ended while a window is open ends all the same.
+        self.assertEqual(sender.end(signal.SIGTERM), 0)
+        self.assertEqual(receiver.end(signal.SIGTERM), 0)
+        self.assertEqual(len(arrived()), 5)
 
 
 if __name__ == "__main__":
