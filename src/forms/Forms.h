@@ -23,6 +23,7 @@ inline constexpr QStringView Menu = u"frmMenu";
 inline constexpr QStringView Splash = u"frmSplash";
 inline constexpr QStringView Status = u"frmStatus";
 inline constexpr QStringView QuietLine = u"frmQuietLine";
+inline constexpr QStringView Find = u"frmFind";
 } // namespace formNames
 
 /// The loaded forms in the order of loading. Whoever walks them while events run takes a copy and asks `isLoaded`.

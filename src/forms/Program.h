@@ -87,6 +87,7 @@ public:
         QPoint place;
     };
     std::vector<HiddenWindow> hiddenWindows;
+    QString lastSearch; ///< What was looked for last; with it F3 goes on.
     /// A write failed and the user has been told; told again only after one has succeeded.
     bool saveFailureTold = false;
     /// Said after the user has deleted a note; for whoever offers to take that back.

@@ -31,8 +31,8 @@ void NoteWindowProc(Form &form, Qt::ApplicationState state)
 
 bool isOwnKind(const Form &form)
 {
-    constexpr std::array Own{formNames::Note,   formNames::NoteStack, formNames::Menu,
-                             formNames::Splash, formNames::Status,    formNames::QuietLine};
+    constexpr std::array Own{formNames::Note,   formNames::NoteStack, formNames::Menu, formNames::Splash,
+                             formNames::Status, formNames::QuietLine, formNames::Find};
     return std::find(Own.begin(), Own.end(), form.formName()) != Own.end();
 }
 
@@ -100,7 +100,8 @@ bool isAnswerAwaited(const Program &program)
 
 void activateNext(Program &program, Form &from)
 {
-    constexpr std::array Kinds{formNames::Note, formNames::NoteStack, formNames::Menu, formNames::QuietLine};
+    constexpr std::array Kinds{formNames::Note, formNames::NoteStack, formNames::Menu, formNames::QuietLine,
+                               formNames::Find};
     auto all = program.forms.loaded();
     const auto at = std::find(all.begin(), all.end(), &from);
     if (at == all.end())

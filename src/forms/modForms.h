@@ -29,7 +29,7 @@ void ShowNoteWindows(Program &program);
 bool IsDialogShowing(const Program &program);
 /// True while a person is to answer something: a dialog, a box or a chooser is open.
 bool isAnswerAwaited(const Program &program);
-/// From a note, the NoteStack, the main panel or a quiet line to the next of these windows that is shown: desktops list
+/// From a note, the NoteStack, the main panel, a quiet line or the search to the next of these windows that is shown: desktops list
 /// no notes in their window switcher.
 void activateNext(Program &program, Form &from);
 /// Hides, destroys and unloads every window but the main panel, which is hidden. Saves nothing.

@@ -67,6 +67,7 @@ public:
     QWidget &hostWindow() override { return *this; }
     NoteTitle &titleEditor() override { return *m_title; }
     bool isShown(const LiveNote &) const override { return m_place.isReady(); }
+    void reveal(qint32 tag) override;
     void showTitle(LiveNote &note) override;
     void showLock(LiveNote &note) override;
     void letGo(qint32 tag) override;

@@ -4,6 +4,7 @@
 
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsHiding.h"
 #include "notes/ResizeHandles.h"
 #include "notes/commands/NoteMenus.h"
 #include "notes/commands/noteKeys.h"
@@ -111,6 +112,13 @@ void frmNote::runOwn(NoteCommand command)
         scrollStep();
     else if (command == NoteCommand::OnTop)
         toggleOnTop();
+}
+
+void frmNote::reveal(qint32)
+{
+    modForms::bringBack(m_program, *this);
+    show();
+    windowStacking::SetForegroundWindow(*this);
 }
 
 void frmNote::startMove(QPoint globalPosition)

@@ -77,6 +77,7 @@ public:
     QWidget &hostWindow() override { return *this; }
     NoteTitle &titleEditor() override { return *m_title; }
     bool isShown(const LiveNote &note) const override;
+    void reveal(qint32 tag) override;
     void showTitle(LiveNote &note) override;
     void showLock(LiveNote &note) override;
     void letGo(qint32 tag) override;

@@ -114,6 +114,13 @@ void frmNoteStack::ApplyTabState(LiveNote &note)
         ArmTabAlarm(*now);
 }
 
+void frmNoteStack::reveal(qint32 tag)
+{
+    showStack();
+    m_tabs->setCurrentIndex(m_notes->indexOf(tag));
+    setFocus();
+}
+
 void frmNoteStack::showTitle(LiveNote &note)
 {
     const QString title = noteTitles::title(note.record);

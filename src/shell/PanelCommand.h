@@ -17,5 +17,6 @@ enum class PanelCommand
     About,
     Show,
     ShowOrHideAll,
+    Find,
     None
 };

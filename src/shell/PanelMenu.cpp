@@ -14,6 +14,7 @@ struct Entry
 };
 
 constexpr Entry Entries[] = {
+    {"mnuFind", QT_TRANSLATE_NOOP("PanelMenu", "Find in all notes"), "Ctrl+F", PanelCommand::Find},
     {"mnuShowOrHide", QT_TRANSLATE_NOOP("PanelMenu", "Show or hide all notes"), "Ctrl+Shift+H",
      PanelCommand::ShowOrHideAll},
 };

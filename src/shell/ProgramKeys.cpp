@@ -16,6 +16,7 @@ struct Row
 
 constexpr Row Rows[] = {
     {Qt::CTRL | Qt::Key_N, PanelCommand::New},
+    {Qt::CTRL | Qt::Key_F, PanelCommand::Find},
     {Qt::CTRL | Qt::Key_S, PanelCommand::Save},
     {Qt::CTRL | Qt::SHIFT | Qt::Key_H, PanelCommand::ShowOrHideAll},
 };

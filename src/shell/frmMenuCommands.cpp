@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "dialogs/frmOptions.h"
+#include "find/frmFind.h"
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/modFormsHiding.h"
@@ -146,6 +147,9 @@ void frmMenu::perform(PanelCommand command)
         break;
     case PanelCommand::About:
         openAbout();
+        break;
+    case PanelCommand::Find:
+        frmFind::open(m_program);
         break;
     case PanelCommand::ShowOrHideAll:
         modForms::ShowOrHideAll(m_program);

@@ -9,6 +9,7 @@
 #include "notes/commands/NoteHost.h"
 #include "notes/commands/noteClipboard.h"
 #include "notes/commands/noteEditing.h"
+#include "notes/commands/noteFinding.h"
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/NoteTitle.h"
@@ -87,6 +88,8 @@ void NoteAction::run(NoteCommand command) const
     case SmallerFont:
     case UsualFont:
         return changeFontSize(command);
+    case FindNext:
+        return findNext();
     case Toolbar:
     case Scrolled:
     case OnTop:
@@ -153,6 +156,13 @@ void NoteAction::paste() const
 {
     if (!note()->locked)
         noteEditing::paste(m_program, note()->record, note()->body);
+}
+
+/// Goes on with what was looked for last.
+void NoteAction::findNext() const
+{
+    if (!note()->locked)
+        noteFinding::showNext(note()->body, m_program.lastSearch);
 }
 
 void NoteAction::print() const

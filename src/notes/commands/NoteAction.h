@@ -75,6 +75,7 @@ private:
     void paste() const;
     void print() const;
     void toggleLock() const;
+    void findNext() const;
     void changeFontSize(NoteCommand command) const;
     void say(const Said &said) const;
 

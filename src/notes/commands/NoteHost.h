@@ -30,6 +30,8 @@ public:
     virtual NoteTitle &titleEditor() = 0;
     /// The note is to be seen, not being loaded nor being closed: what is wrong with it may be told, and edited.
     virtual bool isShown(const LiveNote &note) const = 0;
+    /// Brings the note to the front with the focus, wherever it is hidden.
+    virtual void reveal(qint32 tag) = 0;
     /// Shows the title of the record wherever this window shows titles.
     virtual void showTitle(LiveNote &note) = 0;
     /// Shows the overlay of a locked note, or what it covers.

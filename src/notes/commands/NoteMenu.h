@@ -29,7 +29,8 @@ enum class NoteCommand
     Paste,
     LargerFont,
     SmallerFont,
-    UsualFont
+    UsualFont,
+    FindNext
 };
 
 /// One row of a menu's table.

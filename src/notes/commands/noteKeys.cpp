@@ -20,6 +20,7 @@ struct CommandKey
 constexpr CommandKey Keys[] = {
     {Qt::Key_F1, NoteCommand::Help},
     {Qt::Key_F2, NoteCommand::Title},
+    {Qt::Key_F3, NoteCommand::FindNext},
     {Qt::CTRL | Qt::Key_P, NoteCommand::Print},
     {Qt::CTRL | Qt::Key_W, NoteCommand::Move},
     {Qt::CTRL | Qt::Key_Plus, NoteCommand::LargerFont},

@@ -37,6 +37,15 @@ public:
     /// Scrolls the text that is shown; false while it is edited or hidden, and for keys that scroll nothing.
     bool scrollByKey(const QKeyEvent &key) const { return m_shown && !m_editing && m_text->scrollByKey(key); }
 
+    /// The text to look for something in, as `showFound` counts: that of the edit while there is one.
+    QString searchedText() const { return m_editing ? m_textBox->toPlainText() : m_text->shownText(); }
+    /// Where to go on: behind what was found last, or behind the caret.
+    qsizetype searchedTo() const { return m_editing ? m_textBox->textCursor().selectionEnd() : m_text->endOfFound(); }
+    void showFound(qsizetype at, qsizetype length)
+    {
+        m_editing ? m_textBox->showFound(at, length) : m_text->showFound(at, length);
+    }
+
     void BeginTextEditing(const QString &text);
     bool isEditing() const { return m_editing; }
     /// While it is edited: puts that where the caret is.

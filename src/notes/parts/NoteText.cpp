@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextLayout>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -53,6 +52,7 @@ void NoteText::setCaption(const QString &caption)
     setAccessibleName(m_shown);
     m_firstLine = 0;
     m_scroll = 0;
+    m_found = {};
     forget();
 }
 
@@ -80,7 +80,7 @@ qsizetype NoteText::mostCharacters() const
 
 NoteText::Paragraph NoteText::laidOut(const QString &text, qreal top) const
 {
-    Paragraph paragraph{std::make_unique<QTextLayout>(text, font()), top, 0};
+    Paragraph paragraph{std::make_unique<QTextLayout>(text, font()), m_next, top, 0};
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTabStopDistance(TabDistance);
@@ -125,11 +125,50 @@ void NoteText::paintEvent(QPaintEvent *)
     for (const Paragraph &paragraph : m_paragraphs) {
         const qreal top = paragraph.top - m_scroll;
         if (top < height() && top + paragraph.height > -Air.top())
-            paragraph.layout->draw(&painter, origin + QPointF(0, paragraph.top));
+            paragraph.layout->draw(&painter, origin + QPointF(0, paragraph.top), marksOf(paragraph));
     }
     // Half a pixel may be left of where it is scrolled to.
     if (!m_complete || m_height - m_scroll > visibleHeight() + 1)
         paintMoreMark(painter);
+}
+
+QList<QTextLayout::FormatRange> NoteText::marksOf(const Paragraph &paragraph) const
+{
+    const qsizetype from = qMax(m_found.start - paragraph.begin, qsizetype(0));
+    const qsizetype to = qMin(m_found.start + m_found.length - paragraph.begin, paragraph.layout->text().size());
+    if (m_found.length == 0 || from >= to)
+        return {};
+    QTextCharFormat marked;
+    marked.setBackground(palette().highlight());
+    marked.setForeground(palette().highlightedText());
+    return {{static_cast<int>(from), static_cast<int>(to - from), marked}};
+}
+
+void NoteText::forgetFound()
+{
+    m_found = {};
+    update();
+}
+
+void NoteText::showFound(qsizetype at, qsizetype length)
+{
+    m_found = {at, length};
+    while (!m_complete && m_next <= at)
+        layOutTo(m_height + 1);
+    int line = 0;
+    for (const Paragraph &paragraph : m_paragraphs) {
+        const qsizetype inside = at - paragraph.begin;
+        if (inside <= paragraph.layout->text().size()) {
+            line += paragraph.layout->lineForTextPosition(static_cast<int>(inside)).lineNumber();
+            break;
+        }
+        line += paragraph.layout->lineCount();
+    }
+    // With a line above it, as far as there is one; where it is seen already nothing moves.
+    const qreal top = topOfLine(line);
+    if (top < m_scroll || top + QFontMetricsF(font()).lineSpacing() > m_scroll + visibleHeight())
+        scrollToLine(line - 1);
+    update();
 }
 
 /// In the margin, where no letter comes.
@@ -164,6 +203,7 @@ void NoteText::changeEvent(QEvent *event)
 void NoteText::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
+    forgetFound();
     emit pressed(event->button(), event->globalPosition().toPoint());
 }
 

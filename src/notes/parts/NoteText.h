@@ -5,11 +5,10 @@
 #include "notes/parts/FontWheel.h"
 
 #include <QLabel>
+#include <QTextLayout>
 
 #include <memory>
 #include <vector>
-
-class QTextLayout;
 
 /// A line of a text as it is wrapped: the paragraph it belongs to and which of its lines it is, both from 0.
 struct TextPlace
@@ -36,6 +35,13 @@ public:
     /// Scrolls so that the line is at the top, or as far as the text goes; to the beginning for a line so far down
     /// that it would take its time.
     void scrollTo(TextPlace place);
+    /// Marks that part of the text, counted in UTF-16 units, and scrolls to it; it stays marked until the text changes
+    /// or is pressed.
+    void showFound(qsizetype at, qsizetype length);
+    void forgetFound();
+    /// Behind what is marked; 0 where nothing is.
+    qsizetype endOfFound() const { return m_found.length == 0 ? 0 : m_found.start + m_found.length; }
+    const QString &shownText() const { return m_shown; }
     /// Scrolls by an arrow, Page Up, Page Down, Home or End; false for any other key. In a very long text one press
     /// of End goes only as far as does not take its time.
     bool scrollByKey(const QKeyEvent &key);
@@ -61,6 +67,7 @@ private:
     struct Paragraph
     {
         std::unique_ptr<QTextLayout> layout;
+        qsizetype begin = 0;
         qreal top = 0;
         qreal height = 0;
     };
@@ -76,9 +83,16 @@ private:
     qreal topOfLine(int line);
     void scrollToLine(int line);
     qreal visibleHeight() const;
+    /// What is marked, as this paragraph counts.
+    QList<QTextLayout::FormatRange> marksOf(const Paragraph &paragraph) const;
     void paintMoreMark(QPainter &painter) const;
 
     QString m_shown;
+    struct
+    {
+        qsizetype start = 0;
+        qsizetype length = 0;
+    } m_found;
     QColor m_ink = Qt::black;
     std::vector<Paragraph> m_paragraphs;
     qsizetype m_next = 0; ///< Where the first paragraph that is not laid out begins.

@@ -69,6 +69,15 @@ void NoteTextBox::scrollTo(TextPlace place)
         verticalScrollBar()->setValue(block.firstLineNumber() + place.line);
 }
 
+void NoteTextBox::showFound(qsizetype at, qsizetype length)
+{
+    QTextCursor cursor(document());
+    cursor.setPosition(static_cast<int>(at));
+    cursor.setPosition(static_cast<int>(at + length), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
 void NoteTextBox::insertFromMimeData(const QMimeData *source)
 {
     const QTextCursor cursor = textCursor();

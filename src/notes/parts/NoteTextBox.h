@@ -23,6 +23,8 @@ public:
     /// The line at the top, as NoteText counts.
     TextPlace place() const;
     void scrollTo(TextPlace place);
+    /// Selects that part of the document, in which a line end is one unit.
+    void showFound(qsizetype at, qsizetype length);
 
 signals:
     /// The box lost the focus to something other than its own menu, or Escape was pressed.
