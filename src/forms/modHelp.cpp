@@ -13,20 +13,32 @@
 namespace modHelp
 {
 
+namespace
+{
+
+void tell(Program &program, const QString &text, const QString &caption)
+{
+    program.prompts().tell({text, caption, Message::Icon::Exclamation}, nullptr);
+}
+
+} // namespace
+
+void openPage(Program &program, const QUrl &page)
+{
+    program.browser().open(page, [&program] {
+        tell(program, QCoreApplication::translate("modHelp", "Could not find associated Browser"),
+             QCoreApplication::translate("modHelp", "Browser Not Found"));
+    });
+}
+
 void ShowHelp(Program &program)
 {
-    const auto tell = [&program](const QString &text, const QString &caption) {
-        program.prompts().tell({text, caption, Message::Icon::Exclamation}, nullptr);
-    };
     const QString &page = program.paths().HelpFile;
-    if (!QFileInfo(page).isFile())
-        tell(QCoreApplication::translate("modHelp", "Web Page not Opened"),
-             QCoreApplication::translate("modHelp", "URL Failed"));
+    if (QFileInfo(page).isFile())
+        openPage(program, QUrl::fromLocalFile(page));
     else
-        program.browser().open(QUrl::fromLocalFile(page), [tell] {
-            tell(QCoreApplication::translate("modHelp", "Could not find associated Browser"),
-                 QCoreApplication::translate("modHelp", "Browser Not Found"));
-        });
+        tell(program, QCoreApplication::translate("modHelp", "Web Page not Opened"),
+             QCoreApplication::translate("modHelp", "URL Failed"));
 }
 
 } // namespace modHelp

@@ -80,6 +80,7 @@ void frmNote::connectNote()
         stopFlashing();
         action().editText();
     });
+    connect(&m_note.body, &NoteBody::markPressed, this, [this](qsizetype at) { action().toggleMark(at); });
     connect(&m_note.body, &NoteBody::editingChanged, m_toolbar, &NoteToolbar::setEditing);
     connect(m_overlay, &LockOverlay::clicked, this, [this] { action().unlock(); });
     connect(m_handles, &ResizeHandles::sized, &m_place, &NotePlace::storePlace);

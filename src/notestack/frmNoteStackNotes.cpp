@@ -76,6 +76,7 @@ void frmNoteStack::connectNote(LiveNote &note)
         else
             m_menus->openShort(at);
     });
+    connect(&note.body, &NoteBody::markPressed, this, [this](qsizetype at) { action().toggleMark(at); });
     connect(&note.body, &NoteBody::editingChanged, this, [this, tag](bool editing) {
         const LiveNote *shown = chosen();
         if (shown != nullptr && shown->tag() == tag)

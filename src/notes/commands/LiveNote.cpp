@@ -4,6 +4,7 @@
 
 #include "controls/noteFont.h"
 #include "forms/modFormsSaving.h"
+#include "forms/modHelp.h"
 #include "notes/commands/noteEditing.h"
 #include "security/noteLocks.h"
 
@@ -20,6 +21,8 @@ LiveNote::LiveNote(Program &program, QWidget *paper)
     : body(paper), alarm(program, [this] { return &record; }), m_program(program)
 {
     connect(&body, &NoteBody::committed, this, &LiveNote::textCommitted);
+    connect(&body, &NoteBody::addressPressed, this,
+            [this](const QUrl &address) { modHelp::openPage(m_program, address); });
     connect(&body, &NoteBody::fontWheelTurned, this, &LiveNote::wheelTurned);
     connect(&body, &NoteBody::pasteRefused, this,
             [this, paper] { noteEditing::tellUnpastable(m_program, paper->window()); });

@@ -13,6 +13,7 @@
 #include "notes/commands/notePrinting.h"
 #include "notes/commands/noteTitles.h"
 #include "notes/parts/NoteTitle.h"
+#include "notes/parts/textLinks.h"
 #include "platform/Prompts.h"
 #include "security/noteLocks.h"
 
@@ -130,6 +131,24 @@ void NoteAction::editText(const QString &typed) const
         return;
     host()->beginTextEditing(*now);
     now->body.type(typed);
+}
+
+void NoteAction::toggleMark(qsizetype at) const
+{
+    LiveNote *now = note();
+    if (now == nullptr || now->locked || now->body.isEditing())
+        return;
+    const QString text = now->record.Data;
+    if (at >= text.size() || !noteEditing::mayEdit(m_program, clsNoteProps(now->record), m_owner))
+        return;
+    now = note();
+    // It was asked about this text.
+    if (now == nullptr || now->locked || now->body.isEditing() || now->record.Data != text)
+        return;
+    const QChar mark = textLinks::toggled(text.at(at));
+    now->body.replaceMark(text, at, mark);
+    now->record.Data[at] = mark;
+    now->markChanged();
 }
 
 void NoteAction::editTitle() const

@@ -56,6 +56,8 @@ public:
     void run(NoteCommand command) const;
     /// Begins the edit as a click does; what was typed already is put behind the text.
     void editText(const QString &typed = {}) const;
+    /// Ticks the box of a line, or unticks it; `at` is where its mark is in the text.
+    void toggleMark(qsizetype at) const;
     void editTitle() const;
     void unlock() const;
     /// Asks whether the note is to be deleted, whatever refuses it then.

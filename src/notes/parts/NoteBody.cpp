@@ -9,6 +9,8 @@ NoteBody::NoteBody(QWidget *note)
 {
     nameControls();
     connect(m_text, &NoteText::pressed, this, &NoteBody::textPressed);
+    connect(m_text, &NoteText::addressPressed, this, &NoteBody::addressPressed);
+    connect(m_text, &NoteText::markPressed, this, &NoteBody::markPressed);
     connect(m_text, &NoteText::fontWheelTurned, this, &NoteBody::fontWheelTurned);
 }
 
@@ -117,6 +119,7 @@ void NoteBody::makeTextBox()
     m_textBox = new NoteTextBox(m_editLayer);
     nameControls();
     connect(m_textBox, &NoteTextBox::left, this, &NoteBody::commit);
+    connect(m_textBox, &NoteTextBox::addressPressed, this, &NoteBody::addressPressed);
     connect(m_textBox, &NoteTextBox::fontWheelTurned, this, &NoteBody::fontWheelTurned);
     connect(m_textBox, &NoteTextBox::pasteRefused, this, &NoteBody::pasteRefused, Qt::QueuedConnection);
     dressTextBox();
@@ -135,13 +138,9 @@ void NoteBody::BeginTextEditing(const QString &text)
 {
     if (m_editing)
         return;
-    if (m_textBox == nullptr)
-        makeTextBox();
+    prepareTextBox(text);
     m_editing = true;
     showLayers();
-    // The text it still holds keeps its history: what was typed or pasted before can be undone.
-    if (m_textBox->noteText() != text)
-        m_textBox->setNoteText(text);
     m_textBox->moveCursor(QTextCursor::End);
     m_textBox->setFocus(Qt::MouseFocusReason);
     // Nothing moves under the pointer; what is typed comes into sight at the caret.
@@ -165,12 +164,27 @@ void NoteBody::commit()
     emit committed(text);
 }
 
-void NoteBody::replaceText(const QString &former, const QString &text)
+void NoteBody::prepareTextBox(const QString &text)
 {
     if (m_textBox == nullptr)
         makeTextBox();
-    if (m_textBox->noteText() != former)
-        m_textBox->setNoteText(former);
+    // The text it still holds keeps its history: what was typed or pasted before can be undone.
+    if (m_textBox->noteText() != text)
+        m_textBox->setNoteText(text);
+}
+
+void NoteBody::replaceMark(const QString &former, qsizetype at, QChar mark)
+{
+    prepareTextBox(former);
+    m_textBox->replaceMark(at, mark);
+    const TextPlace place = m_text->place();
+    setText(m_textBox->noteText());
+    m_text->scrollTo(place);
+}
+
+void NoteBody::replaceText(const QString &former, const QString &text)
+{
+    prepareTextBox(former);
     QTextCursor cursor(m_textBox->document());
     cursor.select(QTextCursor::Document);
     cursor.insertText(text);

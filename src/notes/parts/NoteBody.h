@@ -56,6 +56,8 @@ public:
     QString typedText() const { return m_textBox->noteText(); }
     /// Replaces the whole text, undoable in the next edit.
     void replaceText(const QString &former, const QString &text);
+    /// Another mark in the box of a line, undoable in the next edit.
+    void replaceMark(const QString &former, qsizetype at, QChar mark);
     /// Nothing of the text is left in any widget.
     void forgetText();
 
@@ -63,6 +65,10 @@ signals:
     void textPressed(Qt::MouseButton button, QPoint globalPosition);
     void editingChanged(bool editing);
     void committed(const QString &text);
+    /// An address was pressed with Ctrl.
+    void addressPressed(const QUrl &address);
+    /// The same of the mark of a box in the text that is shown; where it is in the text.
+    void markPressed(qsizetype at);
     /// The wheel was turned with Ctrl; up is positive.
     void fontWheelTurned(int notches);
     /// What was pasted into the edit could not be laid out in time.
@@ -71,6 +77,7 @@ signals:
 private:
     void nameControls();
     void makeTextBox();
+    void prepareTextBox(const QString &text);
     void showLayers();
     void dressTextBox();
 

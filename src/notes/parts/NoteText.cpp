@@ -4,10 +4,7 @@
 
 #include "forms/modFormsTexts.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QWheelEvent>
 
 #include <cmath>
 
@@ -18,17 +15,9 @@ constexpr QMargins Air(6, 6, 6, 2);
 constexpr qreal TabDistance = 80;
 constexpr qreal NarrowestLetter = 2;
 constexpr qsizetype SpareCharacters = 4096;
-constexpr int StepsPerNotch = 120;
-constexpr int LinesPerNotch = 3;
-constexpr int LastReachable = 20'000;
 constexpr QSizeF MoreMark(4, 9);
 constexpr qreal MoreMarkBottom = 20; ///< From the lower edge: above the grip of the NoteStack.
 constexpr float MoreMarkOpacity = 0.6F;
-
-bool endsParagraph(QChar c)
-{
-    return c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator;
-}
 
 } // namespace
 
@@ -36,9 +25,15 @@ NoteText::NoteText(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setCursor(Qt::IBeamCursor);
+    setMouseTracking(true);
 }
 
 NoteText::~NoteText() = default;
+
+bool NoteText::isLineEnd(QChar c)
+{
+    return c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator;
+}
 
 QMargins NoteText::air()
 {
@@ -102,7 +97,7 @@ void NoteText::layOutTo(qreal bottom)
     while (!m_complete && m_height < bottom) {
         const qsizetype limit = qMin(m_shown.size(), m_next + mostCharacters());
         qsizetype end = m_next;
-        while (end < limit && !endsParagraph(m_shown.at(end)))
+        while (end < limit && !isLineEnd(m_shown.at(end)))
             ++end;
         Paragraph paragraph = laidOut(m_shown.mid(m_next, end - m_next), m_height);
         m_height += paragraph.height;
@@ -111,7 +106,7 @@ void NoteText::layOutTo(qreal bottom)
         if (m_complete)
             break;
         const bool twoCharacters = m_shown.at(end) == u'\r' && end + 1 < m_shown.size() && m_shown.at(end + 1) == u'\n';
-        m_next = endsParagraph(m_shown.at(end)) ? end + (twoCharacters ? 2 : 1) : end;
+        m_next = isLineEnd(m_shown.at(end)) ? end + (twoCharacters ? 2 : 1) : end;
     }
 }
 
@@ -200,13 +195,6 @@ void NoteText::changeEvent(QEvent *event)
     QLabel::changeEvent(event);
 }
 
-void NoteText::mousePressEvent(QMouseEvent *event)
-{
-    event->accept();
-    forgetFound();
-    emit pressed(event->button(), event->globalPosition().toPoint());
-}
-
 int NoteText::linesAbove(qreal y) const
 {
     int count = 0;
@@ -276,49 +264,4 @@ void NoteText::scrollTo(TextPlace place)
         line += m_paragraphs[i].layout->lineCount();
     }
     scrollToLine(line);
-}
-
-void NoteText::wheelEvent(QWheelEvent *event)
-{
-    event->accept();
-    if (const int notches = m_fontWheel.notches(*event); notches != 0)
-        emit fontWheelTurned(notches);
-    if (FontWheel::isMeant(*event))
-        return;
-    m_turned += event->angleDelta().y() * LinesPerNotch;
-    const int lines = m_turned / StepsPerNotch;
-    m_turned -= lines * StepsPerNotch;
-    if (lines != 0)
-        scrollToLine(m_firstLine - lines);
-}
-
-bool NoteText::scrollByKey(const QKeyEvent &key)
-{
-    const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
-    const bool toAnEnd = key.key() == Qt::Key_Home || key.key() == Qt::Key_End;
-    if (modifiers != Qt::NoModifier && !(toAnEnd && modifiers == Qt::ControlModifier))
-        return false;
-    const int page = qMax(1, static_cast<int>(visibleHeight() / QFontMetricsF(font()).lineSpacing()) - 1);
-    switch (key.key()) {
-    case Qt::Key_Up:
-        scrollToLine(m_firstLine - 1);
-        return true;
-    case Qt::Key_Down:
-        scrollToLine(m_firstLine + 1);
-        return true;
-    case Qt::Key_PageUp:
-        scrollToLine(m_firstLine - page);
-        return true;
-    case Qt::Key_PageDown:
-        scrollToLine(m_firstLine + page);
-        return true;
-    case Qt::Key_Home:
-        scrollToLine(0);
-        return true;
-    case Qt::Key_End:
-        scrollToLine(m_firstLine + LastReachable);
-        return true;
-    default:
-        return false;
-    }
 }

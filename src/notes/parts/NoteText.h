@@ -6,8 +6,10 @@
 
 #include <QLabel>
 #include <QTextLayout>
+#include <QUrl>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// A line of a text as it is wrapped: the paragraph it belongs to and which of its lines it is, both from 0.
@@ -53,13 +55,19 @@ public:
 
 signals:
     void pressed(Qt::MouseButton button, QPoint globalPosition);
+    /// With Ctrl.
+    void addressPressed(const QUrl &address);
+    /// The mark of a box at the beginning of a line, with Ctrl; where it is in the text.
+    void markPressed(qsizetype at);
     /// The wheel was turned with Ctrl; up is positive.
     void fontWheelTurned(int notches);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -72,6 +80,12 @@ private:
         qreal height = 0;
     };
 
+    static constexpr int LastReachable = 20'000; ///< Lines and paragraphs.
+    static bool isLineEnd(QChar c);
+
+    std::pair<const Paragraph *, qsizetype> letterAt(QPointF point);
+    std::optional<QUrl> addressAt(QPointF point);
+    std::optional<qsizetype> markAt(QPointF point);
     void forget();
     /// Lays out paragraphs from the first on until one ends below `bottom`.
     void layOutTo(qreal bottom);

@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteTextBox.h"
 
+#include "drawing/toolTips.h"
 #include "notes/parts/endlessRuns.h"
 #include "notes/parts/focusLoss.h"
+#include "notes/parts/textLinks.h"
 
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QToolTip>
 
 namespace
 {
@@ -25,6 +29,7 @@ NoteTextBox::NoteTextBox(QWidget *parent) : QPlainTextEdit(parent)
     setBackgroundVisible(false);
     document()->setDocumentMargin(0);
     setViewportMargins(NoteText::air());
+    viewport()->setMouseTracking(true);
     setAccessibleName(tr("Text of the note"));
 }
 
@@ -101,8 +106,11 @@ void NoteTextBox::focusOutEvent(QFocusEvent *event)
 
 void NoteTextBox::keyPressEvent(QKeyEvent *event)
 {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         emit left();
+    else if (isEnter && (event->modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier)
+        toggleMark(textCursor());
     else if (event->matches(QKeySequence::Redo) || event->keyCombination() == QKeyCombination(Qt::CTRL, Qt::Key_Y))
         redo();
     else
@@ -116,4 +124,71 @@ void NoteTextBox::wheelEvent(QWheelEvent *event)
     event->accept();
     if (const int notches = m_fontWheel.notches(*event); notches != 0)
         emit fontWheelTurned(notches);
+}
+
+bool NoteTextBox::toggleMark(const QTextCursor &cursor)
+{
+    const QTextBlock block = cursor.block();
+    const auto mark = textLinks::markOf(block.text());
+    if (!mark)
+        return false;
+    replaceAt(block.position() + static_cast<int>(*mark), textLinks::toggled(block.text().at(*mark)));
+    return true;
+}
+
+void NoteTextBox::replaceAt(int at, QChar sign)
+{
+    QTextCursor cursor(document());
+    cursor.setPosition(at);
+    cursor.setPosition(at + 1, QTextCursor::KeepAnchor);
+    cursor.insertText(sign);
+}
+
+void NoteTextBox::replaceMark(qsizetype at, QChar mark)
+{
+    m_original = noteText();
+    // A line end of two characters is one in the document.
+    replaceAt(static_cast<int>(at - m_original.left(at).count(QLatin1String("\r\n"))), mark);
+    m_original[at] = mark;
+    document()->setModified(false);
+}
+
+std::optional<QUrl> NoteTextBox::addressAt(QPoint point) const
+{
+    const QTextCursor cursor = cursorForPosition(point);
+    return textLinks::addressAt(cursor.block().text(), cursor.positionInBlock());
+}
+
+bool NoteTextBox::isOnMark(QPoint point) const
+{
+    const QTextCursor cursor = cursorForPosition(point);
+    return textLinks::markAt(cursor.block().text(), cursor.positionInBlock()).has_value();
+}
+
+void NoteTextBox::mousePressEvent(QMouseEvent *event)
+{
+    const bool isCommand = event->button() == Qt::LeftButton && event->modifiers() == Qt::ControlModifier;
+    const QPoint point = event->position().toPoint();
+    if (const auto address = isCommand ? addressAt(point) : std::nullopt)
+        emit addressPressed(*address);
+    else if (!isCommand || !isOnMark(point) || !toggleMark(cursorForPosition(point)))
+        QPlainTextEdit::mousePressEvent(event);
+}
+
+void NoteTextBox::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint point = event->position().toPoint();
+    const bool opens = event->modifiers() == Qt::ControlModifier && (addressAt(point) || isOnMark(point));
+    viewport()->setCursor(opens ? Qt::PointingHandCursor : Qt::IBeamCursor);
+    QPlainTextEdit::mouseMoveEvent(event);
+}
+
+bool NoteTextBox::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QPlainTextEdit::viewportEvent(event);
+    const auto &help = *static_cast<QHelpEvent *>(event);
+    const auto address = addressAt(help.pos());
+    QToolTip::showText(help.globalPos(), address ? toolTips::plain(textLinks::told(*address)) : QString(), this);
+    return true;
 }

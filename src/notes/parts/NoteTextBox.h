@@ -26,7 +26,12 @@ public:
     /// Selects that part of the document, in which a line end is one unit.
     void showFound(qsizetype at, qsizetype length);
 
+    /// In a text that is not edited: another mark where the box of a line has one, which can be taken back.
+    void replaceMark(qsizetype at, QChar mark);
+
 signals:
+    /// With Ctrl.
+    void addressPressed(const QUrl &address);
     /// The box lost the focus to something other than its own menu, or Escape was pressed.
     void left();
     /// What was pasted or dropped has a run of characters that it could not lay out in time; nothing was inserted.
@@ -39,8 +44,17 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
+    /// The box of the line of this cursor, when there is one.
+    bool toggleMark(const QTextCursor &cursor);
+    std::optional<QUrl> addressAt(QPoint point) const;
+    bool isOnMark(QPoint point) const;
+    void replaceAt(int at, QChar sign);
+
     QString m_original;
     FontWheel m_fontWheel;
 };
