@@ -11,6 +11,7 @@
 #include "platform/DesktopActions.h"
 #include "platform/Prompts.h"
 #include "platform/windowStacking.h"
+#include "restore/restoring.h"
 #include "shell/PanelMenu.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMenu.h"
@@ -145,6 +146,9 @@ void frmMenu::perform(PanelCommand command)
         break;
     case PanelCommand::About:
         openAbout();
+        break;
+    case PanelCommand::Restore:
+        restoring::openRestore(m_program, isVisible() ? this : nullptr);
         break;
     case PanelCommand::ShowOrHideAll:
         modForms::ShowOrHideAll(m_program);
