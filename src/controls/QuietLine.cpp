@@ -77,7 +77,7 @@ void QuietLine::makeParts()
     connect(cross, &QToolButton::clicked, this, [this] { unload(); });
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(SideMargin, Margin, Margin, Margin);
-    row->setSpacing(Margin);
+    row->setSpacing(0);
     for (QWidget *part : {static_cast<QWidget *>(text), static_cast<QWidget *>(action), static_cast<QWidget *>(cross)})
         row->addWidget(part);
 }

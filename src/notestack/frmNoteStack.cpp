@@ -19,6 +19,7 @@
 #include "notestack/TabbedNotes.h"
 #include "notestack/stackHome.h"
 #include "platform/windowStacking.h"
+#include "restore/restoring.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
@@ -253,12 +254,18 @@ void frmNoteStack::showTabList()
         action->setChecked(live(tag) == chosen());
         action->setData(tag);
     }
+    menu->addSeparator();
+    QAction *restore = menu->addAction(tr("&Restore Notes..."));
+    restore->setObjectName(QStringLiteral("mnuRestore"));
     const QAction *picked = menu->exec(m_list->mapToGlobal(QPoint(0, m_list->height())));
     // The window may have gone meanwhile, and the menu with it.
     if (menu == nullptr)
         return;
+    const bool isRestore = picked == restore;
     const qint32 tag = picked != nullptr ? picked->data().toInt() : 0;
     menu->deleteLater();
-    if (live(tag) != nullptr)
+    if (isRestore)
+        restoring::openRestore(m_program, this);
+    else if (live(tag) != nullptr)
         m_tabs->setCurrentIndex(m_notes->indexOf(tag));
 }

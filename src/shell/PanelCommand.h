@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// What can be commanded of the program, on the panel or in the menu of its tray icon. The first eight are the rows of
-/// the panel, in their order.
+/// What can be commanded of the program, on the panel, in its menu or in that of its tray icon. The first eight are the
+/// rows of the panel, in their order.
 enum class PanelCommand
 {
     New,
@@ -18,5 +18,6 @@ enum class PanelCommand
     Show,
     ShowOrHideAll,
     Find,
+    Restore,
     None
 };

@@ -9,7 +9,7 @@ struct Entry
 {
     const char *name;
     const char *caption;
-    const char *keys; ///< Shown beside the caption; they are ProgramKeys'.
+    const char *keys; ///< Shown beside the caption, if any; they are ProgramKeys'.
     PanelCommand command;
 };
 
@@ -17,6 +17,7 @@ constexpr Entry Entries[] = {
     {"mnuFind", QT_TRANSLATE_NOOP("PanelMenu", "Find in all notes"), "Ctrl+F", PanelCommand::Find},
     {"mnuShowOrHide", QT_TRANSLATE_NOOP("PanelMenu", "Show or hide all notes"), "Ctrl+Shift+H",
      PanelCommand::ShowOrHideAll},
+    {"mnuRestore", QT_TRANSLATE_NOOP("PanelMenu", "&Restore Notes..."), "", PanelCommand::Restore},
 };
 
 } // namespace
@@ -26,7 +27,8 @@ PanelMenu::PanelMenu(QWidget *panel) : QMenu(panel)
     setObjectName(QStringLiteral("mnuPanel"));
     setAttribute(Qt::WA_DeleteOnClose);
     for (const Entry &entry : Entries) {
-        QAction *action = addAction(tr(entry.caption) + u'\t' + QLatin1String(entry.keys));
+        const QLatin1String keys(entry.keys);
+        QAction *action = addAction(keys.isEmpty() ? tr(entry.caption) : tr(entry.caption) + u'\t' + keys);
         action->setObjectName(QLatin1String(entry.name));
         connect(action, &QAction::triggered, this, [this, command = entry.command] { emit commanded(command); });
     }

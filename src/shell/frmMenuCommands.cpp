@@ -12,6 +12,7 @@
 #include "platform/DesktopActions.h"
 #include "platform/Prompts.h"
 #include "platform/windowStacking.h"
+#include "restore/restoring.h"
 #include "shell/PanelMenu.h"
 #include "shell/ReceivedNotes.h"
 #include "shell/frmAbout.h"
@@ -82,9 +83,9 @@ void frmMenu::answerDesktop()
         PanelCommand command;
     };
     // As the desktop entry names them.
-    static constexpr std::array Actions{Action{"new-note", PanelCommand::New},
-                                        Action{"show-or-hide", PanelCommand::ShowOrHideAll},
-                                        Action{"notestack", PanelCommand::NoteStack}};
+    static constexpr std::array Actions{
+        Action{"new-note", PanelCommand::New}, Action{"show-or-hide", PanelCommand::ShowOrHideAll},
+        Action{"find", PanelCommand::Find}, Action{"notestack", PanelCommand::NoteStack}};
     auto *desktop = new DesktopActions(this);
     connect(desktop, &DesktopActions::activated, this, [this] { runFromTray(PanelCommand::Show); });
     connect(desktop, &DesktopActions::actionWanted, this, [this](const QString &name) {
@@ -150,6 +151,9 @@ void frmMenu::perform(PanelCommand command)
         break;
     case PanelCommand::Find:
         frmFind::open(m_program);
+        break;
+    case PanelCommand::Restore:
+        restoring::openRestore(m_program, isVisible() ? this : nullptr);
         break;
     case PanelCommand::ShowOrHideAll:
         modForms::ShowOrHideAll(m_program);

@@ -25,6 +25,7 @@
 #include "platform/displayPlatform.h"
 #include "platform/windowStacking.h"
 #include "restore/deletions.h"
+#include "restore/restoring.h"
 #include "shell/frmMenu.h"
 #include "shell/frmSplash.h"
 #include "shell/modInitEnd.h"
@@ -133,7 +134,7 @@ int run(Program &program)
     EndSignals endSignals;
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));
-    restoreNotes(program, splash);
+    const bool isDamaged = restoreNotes(program, splash);
     const ExitRescue rescue([&program] { modForms::rescueNotes(program); });
     if (program.Exiting)
         return 0;
@@ -148,6 +149,8 @@ int run(Program &program)
     // When what was started is on the screen.
     QTimer::singleShot(0, panel, &frmMenu::answerDesktop);
     QMetaObject::invokeMethod(panel, &frmMenu::startReceiving, Qt::QueuedConnection);
+    if (isDamaged)
+        restoring::offerRestore(program, panel->frameGeometry());
     const int result = QApplication::exec();
     delete panel;
     return result;
@@ -187,7 +190,7 @@ void LoadProgramOptions(Program &program)
     program.BuildNoteDefaults();
 }
 
-void restoreNotes(Program &program, frmSplash *splash)
+bool restoreNotes(Program &program, frmSplash *splash)
 {
     const auto create = [&program](clsNoteProps &&note) {
         // The program was told to end meanwhile; what is not restored stays in the file as it is.
@@ -209,6 +212,7 @@ void restoreNotes(Program &program, frmSplash *splash)
     if (report.overLimit > 0)
         modCreateNote::tellLimit(program);
     tellOfLoad(program, report);
+    return report.undecodable > 0 || !report.keptAside.isEmpty();
 }
 
 int Main(int argc, char *argv[])

@@ -21,7 +21,8 @@ bool checkComponents(Program &program);
 void prepareDataFolder(Program &program);
 /// The built-in defaults, the options file over them, and the check of the files they name.
 void LoadProgramOptions(Program &program);
-/// Restores the notes of the data file; the splash window, if there is one, tells how far it is.
-void restoreNotes(Program &program, frmSplash *splash);
+/// Restores the notes of the data file; the splash window, if there is one, tells how far it is. True: damage was
+/// found.
+bool restoreNotes(Program &program, frmSplash *splash);
 
 } // namespace modInit
