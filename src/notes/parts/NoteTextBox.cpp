@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteTextBox.h"
 
-#include "notes/parts/endlessRuns.h"
+#include "drawing/endlessRuns.h"
 #include "notes/parts/focusLoss.h"
 
 #include <QFocusEvent>
