@@ -3,14 +3,15 @@
 # Sourced by run, test and the like: the Debian packages that building, running, testing and checking need.
 # shellcheck shell=bash disable=SC2034
 
-BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev libxcb1-dev libgl1-mesa-dev)
+BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev qtkeychain-qt6-dev
+    libxcb1-dev libgl1-mesa-dev)
 # Fonts: Latin and symbols, the metric twins of the usual office faces, Japanese, Chinese and Korean, emoji.
 RUN_PACKAGES=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-color-emoji)
 DISPLAY_PACKAGES=(xvfb openbox x11vnc x11-apps imagemagick)
 PACKAGING_PACKAGES=(dpkg-dev file lintian)
 CHECK_PACKAGES=(clang-format clang-tidy shellcheck desktop-file-utils appstream)
 PICTURE_PACKAGES=(imagemagick x11-xserver-utils trayer)
-TEST_PACKAGES=(python3 dbus-daemon xvfb openbox xdotool x11-utils clang libclang-rt-14-dev)
+TEST_PACKAGES=(python3 python3-aiosmtpd dbus-daemon xvfb openbox xdotool x11-utils clang libclang-rt-14-dev)
 
 # Installs those of the packages that are not there; asks apt for nothing when all are.
 install_packages() {

@@ -24,13 +24,13 @@ constexpr int Margin = 14;
 
 ExchangeDialog::ExchangeDialog(Program &program, const Kind &kind, QWidget *owner)
     : ModalDialog(program, kind.name, kind.caption, nullptr), m_kindOfBook(kind.book), m_kindOfRecent(kind.recent),
-      m_over(owner), m_content(new QVBoxLayout), m_progress(new ProgressFrame(this))
+      m_over(owner), m_fields(new QFormLayout), m_progress(new ProgressFrame(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Margin);
-    layout->addWidget(makeTargetRow(kind.bookEntry));
-    layout->addLayout(m_content);
+    layout->addLayout(m_fields, 1);
+    makeTargets(kind.bookEntry);
     layout->addWidget(m_progress);
     layout->addLayout(makeButtons());
     m_progress->hide();
@@ -38,19 +38,25 @@ ExchangeDialog::ExchangeDialog(Program &program, const Kind &kind, QWidget *owne
     m_to->setRecent(modFileIO::LoadRecentList(program.paths(), m_kindOfRecent));
 }
 
-QWidget *ExchangeDialog::makeTargetRow(const QString &bookEntry)
+void ExchangeDialog::makeTargets(const QString &bookEntry)
 {
-    auto *row = new QWidget(this);
-    m_to = new TargetBox(bookEntry, row);
-    auto *caption = new QLabel(tr("&To:"), row);
-    caption->setObjectName(QStringLiteral("lblTo"));
-    caption->setBuddy(m_to);
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins({});
-    layout->addWidget(caption);
-    layout->addWidget(m_to, 1);
+    m_to = new TargetBox(bookEntry, this);
+    m_fields->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_fields->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    addField("lblTo", tr("&To:"), *m_to);
     connect(m_to, &TargetBox::bookWanted, this, &ExchangeDialog::openBook);
-    return row;
+}
+
+void ExchangeDialog::addField(const char *name, const QString &caption, QWidget &field)
+{
+    m_fields->addRow(caption, &field);
+    m_fields->labelForField(&field)->setObjectName(QLatin1String(name));
+}
+
+void ExchangeDialog::addButton(QPushButton &button)
+{
+    m_buttons->insertWidget(0, &button);
+    setTabOrder(m_buttons->itemAt(m_buttons->count() - 1)->widget(), &button);
 }
 
 QLayout *ExchangeDialog::makeButtons()
@@ -67,11 +73,11 @@ QLayout *ExchangeDialog::makeButtons()
     cancel->setAutoDefault(false);
     connect(sendButton, &QPushButton::clicked, this, [this] { send(); });
     connect(cancel, &QPushButton::clicked, this, &ExchangeDialog::reject);
-    auto *layout = new QHBoxLayout;
-    layout->addWidget(m_result, 1);
-    layout->addWidget(sendButton);
-    layout->addWidget(cancel);
-    return layout;
+    m_buttons = new QHBoxLayout;
+    m_buttons->addWidget(m_result, 1);
+    m_buttons->addWidget(sendButton);
+    m_buttons->addWidget(cancel);
+    return m_buttons;
 }
 
 QString ExchangeDialog::targets() const

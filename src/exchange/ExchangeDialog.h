@@ -8,8 +8,10 @@
 
 class Exchange;
 class ProgressFrame;
+class QFormLayout;
+class QHBoxLayout;
 class QLabel;
-class QVBoxLayout;
+class QPushButton;
 class TargetBox;
 struct Notice;
 
@@ -45,8 +47,10 @@ protected:
 
     QString targets() const;
     void focusTargets();
-    /// Between the targets and the progress.
-    QVBoxLayout &content() { return *m_content; }
+    /// A field with its caption below those before.
+    void addField(const char *name, const QString &caption, QWidget &field);
+    /// At the left of the others.
+    void addButton(QPushButton &button);
     void follow(Exchange &exchange);
     void keepRecent();
     void showProgress(bool on);
@@ -59,7 +63,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    QWidget *makeTargetRow(const QString &bookEntry);
+    void makeTargets(const QString &bookEntry);
     QLayout *makeButtons();
     void openBook();
 
@@ -67,7 +71,8 @@ private:
     const RecentList m_kindOfRecent;
     QPointer<QWidget> m_over;
     TargetBox *m_to = nullptr; // comTo
-    QVBoxLayout *m_content;
+    QFormLayout *m_fields;
+    QHBoxLayout *m_buttons = nullptr;
     ProgressFrame *m_progress; // fraProgress
     QLabel *m_result = nullptr;
     bool m_closesByFrame = false;

@@ -6,6 +6,7 @@
 #include "platform/Browser.h"
 #include "platform/Choosers.h"
 #include "platform/Clock.h"
+#include "platform/Keyring.h"
 #include "platform/Printing.h"
 #include "platform/Prompts.h"
 #include "platform/SoundPlayer.h"

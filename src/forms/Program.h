@@ -23,6 +23,7 @@
 class Browser;
 class Choosers;
 class Clock;
+class Keyring;
 class Printing;
 class Prompts;
 class SoundPlayer;
@@ -36,6 +37,7 @@ struct Services
     std::unique_ptr<Printing> printing;
     std::unique_ptr<Browser> browser;
     std::unique_ptr<SoundPlayer> sound;
+    std::unique_ptr<Keyring> keyring;
     Pictures pictures;
 };
 
@@ -55,6 +57,7 @@ public:
     Printing &printing() { return *m_services.printing; }
     Browser &browser() { return *m_services.browser; }
     SoundPlayer &sound() { return *m_services.sound; }
+    Keyring &keyring() { return *m_services.keyring; }
     const Pictures &pictures() const { return m_services.pictures; }
     const ProgramPaths &paths() const { return file.paths; }
 

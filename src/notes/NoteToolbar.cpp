@@ -24,10 +24,7 @@ constexpr ButtonStrip::Button Buttons[] = {
 
 NoteToolbar::NoteToolbar(const Pictures &pictures, QWidget *note)
     : ButtonStrip(pictures, QStringLiteral("fraButtons"), Buttons, DatePoints, note)
-{
-    button(NoteCommand::Email).setEnabled(false);
-    button(NoteCommand::Email).setToolTip(tr("Not in this version yet."));
-}
+{}
 
 PictureButton &NoteToolbar::button(NoteCommand command)
 {

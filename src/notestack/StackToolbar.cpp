@@ -36,7 +36,6 @@ StackToolbar::StackToolbar(const Pictures &pictures, QWidget *parent)
     : ButtonStrip(pictures, QStringLiteral("fraToolBar"), Buttons, StatusPoints, parent)
 {
     setPause(Pause);
-    setUnavailable(static_cast<size_t>(Command::Email), tr("Not in this version yet."));
 }
 
 NoteCommand StackToolbar::noteCommand(Command command)

@@ -327,7 +327,7 @@ void testNoteStack::menus_data()
     QTest::addColumn<QString>("entries");
     const StackFixture fixture;
     const QString open =
-        u"To DeskTop,Print,,Title,,Properties,Password%1,Alarm%2,Locked,,Actions,Settings,Send,(E-mail),,"
+        u"To DeskTop,Print,,Title,,Properties,Password%1,Alarm%2,Locked,,Actions,Settings,Send,E-mail,,"
         "Delete,Help"_s;
     clsNoteProps alarm = fixture.record(u"text"_s);
     alarm.AlarmOn = true;

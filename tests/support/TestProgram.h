@@ -5,6 +5,7 @@
 #include "forms/Program.h"
 #include "support/FakeBrowser.h"
 #include "support/FakeClock.h"
+#include "support/FakeKeyring.h"
 #include "support/FakePrinting.h"
 #include "support/FakeSound.h"
 #include "support/ScriptedChoosers.h"
@@ -36,7 +37,7 @@ public:
         : clock(put<FakeClock>(m_services.clock, now)), prompts(put<ScriptedPrompts>(m_services.prompts)),
           choosers(put<ScriptedChoosers>(m_services.choosers)), printing(put<FakePrinting>(m_services.printing)),
           browser(put<FakeBrowser>(m_services.browser)), sound(put<FakeSound>(m_services.sound)),
-          program(services(paths), paths, 96)
+          keyring(put<FakeKeyring>(m_services.keyring)), program(services(paths), paths, 96)
     {}
 
     FakeClock &clock;
@@ -45,5 +46,6 @@ public:
     FakePrinting &printing;
     FakeBrowser &browser;
     FakeSound &sound;
+    FakeKeyring &keyring;
     Program program;
 };

@@ -44,7 +44,7 @@ NoteMenu::Item *NoteMenu::find(NoteCommand command)
 void NoteMenu::setEnabled(NoteCommand command, bool enabled)
 {
     if (Item *item = find(command))
-        item->action->setEnabled(enabled && item->available);
+        item->action->setEnabled(enabled);
 }
 
 void NoteMenu::setChecked(NoteCommand command, bool checked)
@@ -53,19 +53,10 @@ void NoteMenu::setChecked(NoteCommand command, bool checked)
         item->action->setChecked(checked);
 }
 
-void NoteMenu::setUnavailable(NoteCommand command, const QString &reason)
-{
-    if (Item *item = find(command)) {
-        item->available = false;
-        item->action->setEnabled(false);
-        item->action->setToolTip(reason);
-    }
-}
-
 void NoteMenu::enableAll()
 {
     for (const Item &item : m_items)
-        item.action->setEnabled(item.available);
+        item.action->setEnabled(true);
 }
 
 void NoteMenu::disableAll()

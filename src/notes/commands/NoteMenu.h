@@ -62,9 +62,6 @@ public:
 
     void setEnabled(NoteCommand command, bool enabled);
     void setChecked(NoteCommand command, bool checked);
-    /// Disables an entry for good and says why.
-    void setUnavailable(NoteCommand command, const QString &reason);
-    /// Everything enabled that is available.
     void enableAll();
     void disableAll();
 
@@ -76,7 +73,6 @@ private:
     {
         NoteCommand command;
         QAction *action;
-        bool available = true;
     };
 
     QAction *addEntry(QMenu &menu, const MenuEntry &entry);

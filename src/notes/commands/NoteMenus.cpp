@@ -24,7 +24,6 @@ NoteMenu *NoteMenus::make(const QString &name, std::span<const MenuEntry> entrie
         m_open = false;
         emit chosen(command);
     });
-    menu->setUnavailable(Email, tr("Not in this version yet."));
     return menu;
 }
 

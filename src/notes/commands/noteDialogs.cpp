@@ -5,6 +5,7 @@
 #include "alarms/frmAlarmSettings.h"
 #include "dialogs/frmSettings.h"
 #include "drawing/textShortening.h"
+#include "exchange/frmEmail.h"
 #include "exchange/frmSend.h"
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
@@ -88,12 +89,20 @@ void openPassword(Program &program, qint32 tag, QWidget *owner, const Captions &
         [](frmPwdSettings &dialog, clsNoteProps &record) { return dialog.PwdResult(record); });
 }
 
+void openEmail(Program &program, qint32 tag, QWidget *owner, const Captions &captions)
+{
+    const clsNoteProps *record = program.forms.recordOf(tag);
+    if (record != nullptr && !frmEmail::isMissingOptions(program, clsNoteProps(*record), owner))
+        open<frmEmail>(program, tag, owner, captioned(captions.email), TakeNothing);
+}
+
 /// In no order.
 constexpr NoteDialog Dialogs[] = {
     {NoteCommand::Settings, QT_TRANSLATE_NOOP("noteDialogs", "Access to Settings failed."), openSettings},
     {NoteCommand::Alarm, QT_TRANSLATE_NOOP("noteDialogs", "Access to Alarm functions failed."), openAlarm},
     {NoteCommand::Password, QT_TRANSLATE_NOOP("noteDialogs", "Access to Password functions failed."), openPassword},
     {NoteCommand::Send, QT_TRANSLATE_NOOP("noteDialogs", "Access to Send functions failed."), openSend},
+    {NoteCommand::Email, QT_TRANSLATE_NOOP("noteDialogs", "Access to E-mail functions failed."), openEmail},
 };
 
 } // namespace

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "notes/commands/noteEditing.h"
 
+#include "drawing/endlessRuns.h"
 #include "forms/Program.h"
 #include "forms/modFormsSaving.h"
 #include "notes/commands/noteClipboard.h"
 #include "notes/parts/NoteBody.h"
-#include "notes/parts/endlessRuns.h"
 #include "platform/Prompts.h"
 #include "security/noteLocks.h"
 

@@ -48,12 +48,6 @@ void ButtonStrip::setPause(std::chrono::milliseconds pause)
         button->setPause(pause);
 }
 
-void ButtonStrip::setUnavailable(size_t index, const QString &reason)
-{
-    button(index).setEnabled(false);
-    button(index).setToolTip(reason);
-}
-
 void ButtonStrip::setStatus(const QString &status)
 {
     m_status = status.left(LongestStatus);

@@ -32,8 +32,6 @@ public:
     void setPause(std::chrono::milliseconds pause);
     /// What does not fit loses its later words, the time of a date, before it is left out; the tooltip has all of it.
     void setStatus(const QString &status);
-    /// Disables a button for good and says why.
-    void setUnavailable(size_t index, const QString &reason);
 
 signals:
     void commanded(int index);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "notes/parts/NoteTextBox.h"
 
+#include "drawing/endlessRuns.h"
 #include "drawing/toolTips.h"
-#include "notes/parts/endlessRuns.h"
 #include "notes/parts/focusLoss.h"
 #include "notes/parts/textLinks.h"
 

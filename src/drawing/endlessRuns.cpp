@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/parts/endlessRuns.h"
+#include "drawing/endlessRuns.h"
 
 namespace endlessRuns
 {
