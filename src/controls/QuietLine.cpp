@@ -48,8 +48,11 @@ QuietLine::QuietLine(Program &program, Offer offer)
     m_end.setObjectName(QStringLiteral("timEnd"));
     m_end.setSingleShot(true);
     connect(&m_end, &QTimer::timeout, this, &QuietLine::timeIsUp);
-    if (!m_offer.keys.isEmpty())
-        connect(new QShortcut(m_offer.keys, this), &QShortcut::activated, this, &QuietLine::accept);
+    if (m_offer.keys.isEmpty())
+        return;
+    auto *keys = new QShortcut(m_offer.keys, this);
+    keys->setContext(Qt::ApplicationShortcut);
+    connect(keys, &QShortcut::activated, this, &QuietLine::accept);
 }
 
 void QuietLine::makeParts()

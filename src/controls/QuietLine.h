@@ -24,7 +24,7 @@ public:
     {
         QString text;
         QString action;
-        QKeySequence keys;                 ///< Besides Enter and Space on the action; may be empty.
+        QKeySequence keys;                 ///< In any window of the program but in a text that is edited; may be empty.
         std::chrono::milliseconds lasts{}; ///< Zero: until it is answered.
         std::function<void()> accepted;    ///< Said when the line has gone.
     };

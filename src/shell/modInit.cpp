@@ -45,6 +45,8 @@ namespace
 
 constexpr qint32 DesignBackColor = 0x0000FFFF;
 constexpr auto BeforeRestore = 100ms;
+constexpr auto BeforeOffer = 500ms; ///< The window manager has placed the panel by then.
+constexpr int OfferBelow = 60;
 constexpr QSize PanelDesignSize(4440, 3540);
 
 void tellFatal(Prompts &prompts, const QString &text)
@@ -112,6 +114,12 @@ void showPanel(Program &program, frmSplash &splash, frmMenu &panel)
     modForms::SaveAllNotes(program);
 }
 
+/// A place whose lower edge is below the panel.
+QRect below(const QWidget &panel)
+{
+    return panel.frameGeometry().adjusted(0, 0, 0, OfferBelow);
+}
+
 int run(Program &program)
 {
     const QPointer<frmSplash> splash = new frmSplash(program);
@@ -151,7 +159,7 @@ int run(Program &program)
     QTimer::singleShot(0, panel, &frmMenu::answerDesktop);
     QMetaObject::invokeMethod(panel, &frmMenu::startReceiving, Qt::QueuedConnection);
     if (isDamaged)
-        restoring::offerRestore(program, panel->frameGeometry());
+        QTimer::singleShot(BeforeOffer, panel, [&program, panel] { restoring::offerRestore(program, below(*panel)); });
     const int result = QApplication::exec();
     delete panel;
     return result;

@@ -82,7 +82,8 @@ void testDeletions::stackedNote()
     t.f.choose("mnuDelete");
     QCOMPARE(t.f.captions(), QStringList({u"a"_s, u"c"_s}));
     t.f.addAll({u"d"_s});
-    press(*t.line(), "cmdAction");
+    t.f.stack.activateWindow();
+    QTest::keyClick(&t.f.stack, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(t.f.captions(), QStringList({u"a"_s, u"b"_s, u"c"_s, u"d"_s}));
     QCOMPARE(t.f.tabs.currentIndex(), 1);
     QVERIFY(t.f.program.forms.recordOf(2)->Data.contains(u"typed"_s));
