@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "notes/NoteFixture.h"
 #include "drawing/endlessRuns.h"
+#include "notes/NoteFixture.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
