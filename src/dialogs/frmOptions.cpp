@@ -4,8 +4,10 @@
 
 #include "alarms/AttentionGroup.h"
 #include "dialogs/AppearancePage.h"
+#include "dialogs/DesktopGroup.h"
 #include "dialogs/NetworkGroups.h"
 #include "forms/Program.h"
+#include "model/keySettingsFile.h"
 #include "model/modCopyObject.h"
 #include "model/modFileIOOptions.h"
 #include "model/networkSettingsFile.h"
@@ -57,7 +59,8 @@ void frmOptions::Initialize(const clsprogramoptions &options)
 {
     m_network->setSettings(program().NetworkSettings);
     modCopyObject::CopyOptions(options, m_options);
-    m_atLogIn = autostart::isOn();
+    if (m_desktop != nullptr)
+        m_desktop->setFields(autostart::isOn(), program().KeySettings);
     for (const auto &fill : m_fill)
         fill();
     m_appearance->showFields();
@@ -79,19 +82,28 @@ bool frmOptions::OptionsResult(clsprogramoptions &options)
     if (!saved)
         program().prompts().tell(
             {tr("The options could not be saved.\n%1").arg(saved.error()), tr("Error"), Message::Icon::Critical}, this);
-    keepAutostart();
+    keepDesktop();
     return true;
 }
 
-void frmOptions::keepAutostart()
+void frmOptions::keepDesktop()
 {
-    if (m_atLogIn == autostart::isOn())
+    const auto tell = [this](const QString &what, const QString &reason) {
+        program().prompts().tell({what.arg(reason), tr("Error"), Message::Icon::Critical}, this);
+    };
+    if (m_desktop == nullptr)
         return;
-    const QString reason = autostart::set(m_atLogIn, QFileInfo(program().paths().DataFolder).path());
+    if (m_desktop->keys() != program().KeySettings) {
+        program().KeySettings = m_desktop->keys();
+        const QString path = keySettingsFile::pathIn(program().paths().DataFolder);
+        if (const auto saved = keySettingsFile::save(path, program().KeySettings); !saved)
+            tell(tr("The options could not be saved.\n%1"), saved.error());
+    }
+    if (m_desktop->atLogIn() == autostart::isOn())
+        return;
+    const QString reason = autostart::set(m_desktop->atLogIn(), QFileInfo(program().paths().DataFolder).path());
     if (!reason.isEmpty())
-        program().prompts().tell(
-            {tr("The start at log-in could not be changed.\n%1").arg(reason), tr("Error"), Message::Icon::Critical},
-            this);
+        tell(tr("The start at log-in could not be changed.\n%1"), reason);
 }
 
 std::optional<Flaw> frmOptions::findFlaw()
@@ -101,7 +113,7 @@ std::optional<Flaw> frmOptions::findFlaw()
     if (const auto flaw = m_attention->findFlaw())
         return flaw;
     if (isSide(m_options.FrmHeight) && isSide(m_options.FrmWidth))
-        return std::nullopt;
+        return m_desktop != nullptr ? m_desktop->findFlaw() : std::nullopt;
     return Flaw{{tr("The default dimensions of a Quillet cannot be less than 0.5 inches or greater than 5 inches.\n"
                     "Please enter valid dimensions."),
                  tr("Quillet Dimensions Error"), Message::Icon::Critical},

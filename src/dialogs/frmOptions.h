@@ -9,6 +9,7 @@
 
 class AppearancePage;
 class AttentionGroup;
+class DesktopGroup;
 class NetworkGroups;
 class NumberBox;
 class QFormLayout;
@@ -40,7 +41,6 @@ private:
     QWidget *makeGeneral();
     QGroupBox *makePersonal();
     QGroupBox *makeMiscellaneous();
-    QGroupBox *makeLogIn();
     QWidget *makeAlarmPassword();
     QWidget *makeNetworking();
     QGroupBox *makeSend();
@@ -51,7 +51,7 @@ private:
     NumberBox *makePort();
     void addBook(QFormLayout *rows, const QString &name, const QString &caption, const QString &title, QString &field);
 
-    void keepAutostart();
+    void keepDesktop();
 
     clsprogramoptions m_options;
     bool m_atLogIn = false;                    ///< No option of the file: the desktop keeps it.
@@ -62,5 +62,6 @@ private:
     QWidget *m_emailAddress = nullptr;         // txtEmailAddress
     AppearancePage *m_appearance;
     AttentionGroup *m_attention = nullptr;
+    DesktopGroup *m_desktop = nullptr; ///< Null where the system has nothing of it.
     NetworkGroups *m_network = nullptr;
 };

@@ -5,12 +5,12 @@
 #include "controls/FileButton.h"
 #include "controls/NumberBox.h"
 #include "controls/fileChoosing.h"
+#include "dialogs/DesktopGroup.h"
 #include "dialogs/NetworkGroups.h"
 #include "dialogs/frmOptions.h"
 #include "dialogs/pageLayout.h"
 #include "forms/Program.h"
 #include "model/textFile.h"
-#include "platform/autostart.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -106,8 +106,10 @@ QWidget *frmOptions::makeGeneral()
     QGroupBox *personal = makePersonal();
     QGroupBox *miscellaneous = makeMiscellaneous();
     QWidget *page = pageOf(this, {personal, miscellaneous});
-    if (autostart::isSupported())
-        static_cast<QVBoxLayout *>(page->layout())->insertWidget(2, makeLogIn());
+    if (DesktopGroup::isSupported()) {
+        m_desktop = new DesktopGroup(this);
+        static_cast<QVBoxLayout *>(page->layout())->insertWidget(2, m_desktop);
+    }
     return page;
 }
 
@@ -139,13 +141,6 @@ QGroupBox *frmOptions::makeMiscellaneous()
     rows->addRow(tr("&Width:"), m_width);
     layout->addLayout(rows);
     layout->addWidget(hint(tr("In inches, from 0.5 to 5."), group));
-    return group;
-}
-
-QGroupBox *frmOptions::makeLogIn()
-{
-    auto *group = new QGroupBox(tr("Desktop"), this);
-    addCheck(column(group, Spacing / 3), QStringLiteral("AtLogIn"), tr("&Start Quillets at log-in"), m_atLogIn);
     return group;
 }
 

@@ -6,6 +6,7 @@
 #include "drawing/Twips.h"
 #include "forms/DeletedNote.h"
 #include "forms/Forms.h"
+#include "model/clsKeySettings.h"
 #include "model/clsNetworkSettings.h"
 #include "model/clsNoteProps.h"
 #include "model/clsprogramoptions.h"
@@ -77,6 +78,7 @@ public:
     clsprogramoptions DefaultOptions;
     clsprogramoptions ProgramOptions;
     clsNetworkSettings NetworkSettings;
+    clsKeySettings KeySettings;
     clsNoteProps NewNoteDefaults;
     clsNoteProps NoteTemplate;
 

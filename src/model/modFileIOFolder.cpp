@@ -25,8 +25,8 @@ struct Texts
 bool isOwnName(const QString &name)
 {
     static const QRegularExpression own(
-        uR"(^(quillets\.[a-z]+|(misc|window)\.set|(address|host)\.txt|backups)"
-        uR"(|(quillets|misc|window)-\d{4}-\d\d-\d\d-\d{6}(-[a-z-]+)?(-\d+)?\.[a-z]+)(\.[A-Za-z]{6}|\.lock)?$)"_s);
+        uR"(^(quillets\.[a-z]+|(misc|window|network|keys)\.set|(address|host)\.txt|backups)"
+        uR"(|(quillets|misc|window|network|keys)-\d{4}-\d\d-\d\d-\d{6}(-[a-z-]+)?(-\d+)?\.[a-z]+)(\.[A-Za-z]{6}|\.lock)?$)"_s);
     return own.match(name).hasMatch();
 }
 

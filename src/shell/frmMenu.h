@@ -10,6 +10,7 @@
 
 #include <array>
 
+class GlobalKeys;
 class PanelLogo;
 class PanelRow;
 class Program;
@@ -59,6 +60,7 @@ private:
     void runFromKeys(PanelCommand command);
     void runFromTray(PanelCommand command);
     void refuse(QWidget &modal);
+    void grabKeys();
     void perform(PanelCommand command);
     void openOptions();
     void openAbout();
@@ -75,6 +77,7 @@ private:
     QLabel *m_about = nullptr;
     SizeGrip *m_grip = nullptr; // imgResize
     TrayMenu *m_tray = nullptr;
+    GlobalKeys *m_keys = nullptr;
     ReceivedNotes *m_received;
     ReceivedLine *m_receivedLine = nullptr;
     bool m_refusing = false;   ///< The box of a refused command is open.

@@ -10,6 +10,7 @@
 #include "forms/showModally.h"
 #include "notes/modCreateNote.h"
 #include "platform/DesktopActions.h"
+#include "platform/GlobalKeys.h"
 #include "platform/Prompts.h"
 #include "platform/windowStacking.h"
 #include "restore/restoring.h"
@@ -95,6 +96,24 @@ void frmMenu::answerDesktop()
             runFromTray(found->command);
     });
     desktop->publish();
+    m_keys = new GlobalKeys(this);
+    connect(m_keys, &GlobalKeys::pressed, this,
+            [this](int index) { runFromTray(index == 0 ? PanelCommand::New : PanelCommand::ShowOrHideAll); });
+    grabKeys();
+}
+
+void frmMenu::grabKeys()
+{
+    if (m_keys == nullptr)
+        return;
+    const clsKeySettings &settings = m_program.KeySettings;
+    const QList<QKeySequence> taken =
+        m_keys->grab({QKeySequence::fromString(settings.NewNote), QKeySequence::fromString(settings.ShowOrHideAll)});
+    if (!taken.isEmpty())
+        m_program.prompts().tell({tr("Another program has the key %1.  It does nothing in Quillets.")
+                                      .arg(taken.first().toString(QKeySequence::NativeText)),
+                                  QStringLiteral("Quillets"), Message::Icon::Exclamation},
+                                 isVisible() ? this : nullptr);
 }
 
 void frmMenu::refuse(QWidget &modal)
@@ -174,6 +193,7 @@ void frmMenu::openOptions()
     dialog->unload();
     if (isVisible())
         windowStacking::SetForegroundWindow(*this);
+    grabKeys();
 }
 
 void frmMenu::openAbout()

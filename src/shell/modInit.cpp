@@ -7,6 +7,7 @@
 #include "forms/modForms.h"
 #include "forms/modFormsSaving.h"
 #include "forms/modTimers.h"
+#include "model/keySettingsFile.h"
 #include "model/modFileIOFolder.h"
 #include "model/networkSettingsFile.h"
 #include "model/version.h"
@@ -191,6 +192,7 @@ void LoadProgramOptions(Program &program)
     program.ProgramOptions = program.DefaultOptions;
     clsprogramoptions &options = program.ProgramOptions;
     modFileIO::LoadOptionsFile(program.paths(), options);
+    program.KeySettings = keySettingsFile::load(keySettingsFile::pathIn(program.paths().DataFolder));
     program.NetworkSettings = networkSettingsFile::load(networkSettingsFile::pathIn(program.paths().DataFolder));
     checkFile(program, options.SoundFileOn, options.SoundFile, QStringLiteral("The sound "),
               QStringLiteral("Disabling sound file."));

@@ -30,7 +30,7 @@ void testDataFolder::shutToOthers_data()
     QTest::newRow("made") << QStringList() << true;
     QTest::newRow("own files") << QStringList({u"quillets.dat"_s, u"quillets.bak"_s, u"quillets.set"_s, u"misc.set"_s,
                                                u"window.set"_s, u"address.txt"_s, u"host.txt"_s, u"quillets.lock"_s,
-                                               u"window.set.lock"_s, u"backups"_s,
+                                               u"window.set.lock"_s, u"backups"_s, u"network.set"_s, u"keys.set"_s,
                                                u"quillets-2026-11-22-221530-before-damage-2.bak"_s,
                                                u"quillets.dat.xYzabC"_s})
                                << true;

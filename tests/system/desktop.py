@@ -112,6 +112,12 @@ class Program:
         found = self._display.run("xdotool", "search", "--all", "--onlyvisible", "--pid", str(self._process.pid), "--name", ".")
         return [Window(self._display, number) for number in found.split()]
 
+    def shows_within(self, seconds, count):
+        end = time.monotonic() + seconds
+        while len(self.notes()) != count and time.monotonic() < end:
+            time.sleep(0.05)
+        return len(self.notes()) == count
+
     def notes(self):
         return [window for window in self.windows() if "_NET_WM_STATE_SKIP_TASKBAR" in window.state()]
 

@@ -182,6 +182,23 @@ class TestProgram(unittest.TestCase):
         self.assertEqual(first.end(signal.SIGTERM), 0)
 
 
+    def test_keys_of_all_programs(self):
+        with open(os.path.join(os.path.dirname(self.home.data_file), "keys.set"), "w") as file:
+            file.write("New Note = Ctrl+Alt+N\r\nShow Or Hide All = Meta+H\r\nOther\r\n")
+        program = self.started()
+        shown = len(program.notes())
+
+        def press(key, expected):
+            self.display.do("key", key)
+            if not program.shows_within(5, expected):  # A window manager may just be learning of a new keyboard.
+                self.display.do("key", key)
+            until(lambda: len(program.notes()) == expected, f"{expected} notes after {key}")
+
+        press("ctrl+alt+n", shown + 1)
+        press("super+h", 0)
+        press("super+h", shown + 1)
+        self.assertEqual(program.end(signal.SIGTERM), 0)
+
     def test_notes_travel(self):
         port = free_port()
         other = desktop.Home(self.display, BINARY, os.path.join(DATA, "household.dat"), port)
