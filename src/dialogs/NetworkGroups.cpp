@@ -23,6 +23,7 @@ NetworkGroups::NetworkGroups(QWidget *dialog)
               {tr("Everybody nearby"), tr("Computers in my send book"), tr("Nobody")});
     addSwitch(receiving, "FarSenders", tr("Also from &outside the local network"), m_settings.FarSendersOn);
     addBlocked(receiving);
+    addSwitch(receiving, "Announce", tr("Le&t computers nearby find this one"), m_settings.AnnounceOn);
     QFormLayout &mail = *pageLayout::rowsOf(m_mailServer);
     addChoice(mail, "comMailSecurity", tr("Se&curity:"), m_settings.MailSecurity,
               {tr("None (port 25)"), tr("STARTTLS (port 587)"), tr("TLS (port 465)")});

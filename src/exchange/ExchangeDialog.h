@@ -47,6 +47,7 @@ protected:
 
     QString targets() const;
     void focusTargets();
+    TargetBox &targetBox() { return *m_to; }
     /// A field with its caption below those before.
     void addField(const char *name, const QString &caption, QWidget &field);
     /// At the left of the others.

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/TargetBox.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
 
 namespace
 {
 constexpr int UsualLength = 36; // letters
-}
+constexpr int MostEntries = 50;
+} // namespace
 
 TargetBox::TargetBox(const QString &bookEntry, QWidget *parent) : QComboBox(parent)
 {
@@ -30,8 +33,49 @@ void TargetBox::setRecent(const QStringList &texts)
     while (count() > 1)
         removeItem(1);
     addItems(texts);
+    m_recent = static_cast<int>(texts.size());
     setCurrentIndex(-1);
     setEditText(typed);
+}
+
+void TargetBox::addNearby(const QString &text)
+{
+    if (!m_isOpen || count() >= MostEntries || findText(text, Qt::MatchFixedString) >= 0)
+        return;
+    addItem(text);
+    QWidget &list = *view()->window();
+    const int height = list.height() + view()->sizeHintForRow(0);
+    if (list.y() + height < list.screen()->availableGeometry().bottom())
+        list.resize(list.width(), height);
+}
+
+void TargetBox::showPopup()
+{
+    m_isOpen = true;
+    QComboBox::showPopup();
+    view()->window()->installEventFilter(this);
+    emit listOpened();
+}
+
+bool TargetBox::eventFilter(QObject *watched, QEvent *event)
+{
+    // What was chosen is still being told.
+    if (event->type() == QEvent::Hide && watched == view()->window())
+        QMetaObject::invokeMethod(this, &TargetBox::closeList, Qt::QueuedConnection);
+    return QComboBox::eventFilter(watched, event);
+}
+
+void TargetBox::closeList()
+{
+    if (!m_isOpen || view()->isVisible())
+        return;
+    m_isOpen = false;
+    const QString typed = currentText();
+    while (count() > 1 + m_recent)
+        removeItem(count() - 1);
+    setCurrentIndex(-1);
+    setEditText(typed);
+    emit listClosed();
 }
 
 void TargetBox::choose(int index)

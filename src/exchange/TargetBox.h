@@ -14,15 +14,25 @@ public:
     TargetBox(const QString &bookEntry, QWidget *parent);
 
     void setRecent(const QStringList &texts);
+    /// Below the recent ones, while the list is open.
+    void addNearby(const QString &text);
 
 signals:
+    void listOpened();
+    void listClosed();
     /// From the event loop; the text is empty.
     void bookWanted();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void showPopup() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void choose(int index);
+    void closeList();
+
+    int m_recent = 0;      ///< Entries behind the first.
+    bool m_isOpen = false; ///< The list.
 };

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/frmSend.h"
 
+#include "exchange/TargetBox.h"
 #include "forms/Program.h"
 #include "model/modStreams.h"
 #include "net/Packet.h"
 #include "net/machineIdentity.h"
+#include "platform/Nearby.h"
 
 #include <QLayout>
 
@@ -17,10 +19,29 @@ frmSend::frmSend(Program &program, QWidget *owner, ExchangeTimes times)
 {
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     follow(m_run.sender());
+    listNearby();
     connect(&m_run, &SendRun::targetBegun, this, [this] { showProgress(true); });
     connect(&m_run, &SendRun::targetFinished, this,
             [this](const SendTarget &, const ExchangeResult &result) { finishTarget(result); });
     connect(&m_run, &SendRun::finished, this, &frmSend::finish);
+}
+
+/// Others of the network are looked for while the list is open.
+void frmSend::listNearby()
+{
+    Nearby &nearby = program().nearby();
+    connect(&targetBox(), &TargetBox::listOpened, &nearby, &Nearby::look);
+    connect(&targetBox(), &TargetBox::listClosed, &nearby, &Nearby::stopLooking);
+    connect(&nearby, &Nearby::found, this, [this](const NearbyComputer &computer) {
+        if (const QString target = modSend::nearbyTarget(computer.name, computer.host, computer.port);
+            !target.isEmpty())
+            targetBox().addNearby(target);
+    });
+}
+
+frmSend::~frmSend()
+{
+    program().nearby().stopLooking();
 }
 
 void frmSend::Initialize(const clsNoteProps &record)

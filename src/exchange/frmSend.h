@@ -17,6 +17,8 @@ class frmSend final : public ExchangeDialog
 public:
     frmSend(Program &program, QWidget *owner, ExchangeTimes times = NoteSender::UsualTimes);
 
+    ~frmSend() override;
+
     void Initialize(const clsNoteProps &record);
 
 protected:
@@ -26,6 +28,7 @@ protected:
     void bookChanged() override { m_book.reset(); }
 
 private:
+    void listNearby();
     const QList<SendBookEntry> &book();
     QByteArray packet() const;
     void finishTarget(const ExchangeResult &result);

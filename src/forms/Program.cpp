@@ -7,6 +7,7 @@
 #include "platform/Choosers.h"
 #include "platform/Clock.h"
 #include "platform/Keyring.h"
+#include "platform/Nearby.h"
 #include "platform/Printing.h"
 #include "platform/Prompts.h"
 #include "platform/SoundPlayer.h"

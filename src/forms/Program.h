@@ -25,6 +25,7 @@ class Browser;
 class Choosers;
 class Clock;
 class Keyring;
+class Nearby;
 class Printing;
 class Prompts;
 class SoundPlayer;
@@ -39,6 +40,7 @@ struct Services
     std::unique_ptr<Browser> browser;
     std::unique_ptr<SoundPlayer> sound;
     std::unique_ptr<Keyring> keyring;
+    std::unique_ptr<Nearby> nearby;
     Pictures pictures;
 };
 
@@ -59,6 +61,7 @@ public:
     Browser &browser() { return *m_services.browser; }
     SoundPlayer &sound() { return *m_services.sound; }
     Keyring &keyring() { return *m_services.keyring; }
+    Nearby &nearby() { return *m_services.nearby; }
     const Pictures &pictures() const { return m_services.pictures; }
     const ProgramPaths &paths() const { return file.paths; }
 

@@ -3,8 +3,11 @@
 #include "net/modSend.h"
 
 #include "net/aliasResolution.h"
+#include "net/visibleText.h"
 
 #include <QCoreApplication>
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -92,6 +95,18 @@ Outcome<QList<SendTarget>, Notice> modSend::resolveTargets(QStringView text, con
     return Failure{Notice{Texts::tr("There has been an error retreiving your host address(es).\nPlease be sure your "
                                     "alias (nickname) definitions are correct. "),
                           Texts::tr("Host Address Resolution Error")}};
+}
+
+QString modSend::nearbyTarget(const QString &name, const QString &host, quint16 port)
+{
+    static const QRegularExpression sound(u"^[A-Za-z0-9-]+(\\.[A-Za-z0-9-]+)+$"_s);
+    constexpr qsizetype LongestHost = 253;
+    constexpr qsizetype LongestName = 63;
+    if (host.size() > LongestHost || !sound.match(host).hasMatch() || port == 0)
+        return {};
+    QString comment = visibleText::line(name).left(LongestName);
+    comment.removeIf([](QChar c) { return c == u',' || c == u'(' || c == u')'; });
+    return editorLine({{}, host, comment.trimmed(), port});
 }
 
 Notice modSend::noTarget()

@@ -35,6 +35,8 @@ QList<SendBookEntry> entriesOf(const QList<BookLine> &lines);
 /// As the editor writes it: the usual port and an empty comment are left out.
 QString editorLine(const SendBookEntry &entry);
 
+/// A computer that has announced itself, as a target; empty where what it tells of itself cannot be one.
+QString nearbyTarget(const QString &name, const QString &host, quint16 port);
 /// The host addresses behind what was typed. The failure is the box to be shown.
 Outcome<QList<SendTarget>, Notice> resolveTargets(QStringView text, const QList<SendBookEntry> &book);
 /// The box for a text that is empty.

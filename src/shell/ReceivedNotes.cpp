@@ -15,9 +15,11 @@
 #include "net/visibleText.h"
 #include "notes/modCreateNote.h"
 #include "platform/Clock.h"
+#include "platform/Nearby.h"
 #include "platform/windowStacking.h"
 
 #include <QCoreApplication>
+#include <QSysInfo>
 #include <QWidget>
 
 #include <algorithm>
@@ -55,7 +57,9 @@ void ReceivedNotes::start()
 {
     const auto listening = m_server.listen(m_program.ProgramOptions.ListeningPort);
     if (!listening)
-        tell(listening.error());
+        return tell(listening.error());
+    m_port = listening.value();
+    announce();
 }
 
 /// What is on its way through the event loop belongs to somebody who believes that it has arrived.
@@ -63,11 +67,26 @@ void ReceivedNotes::stop()
 {
     QCoreApplication::sendPostedEvents(&m_server, QEvent::MetaCall);
     m_server.close();
+    m_isStopped = true;
+    announce();
 }
 
 void ReceivedNotes::settingsChanged()
 {
     m_policy.setSettings(m_program.NetworkSettings);
+    announce();
+}
+
+/// Others nearby learn of a computer that can receive, if its user wants that.
+void ReceivedNotes::announce()
+{
+    const QString &user = m_program.ProgramOptions.NameName;
+    const QString computer = QSysInfo::machineHostName();
+    const quint16 port = m_program.NetworkSettings.AnnounceOn && !m_isStopped ? m_port : quint16(0);
+    const QString name = user.isEmpty() ? computer : tr("%1 on %2").arg(user, computer);
+    const auto announced = std::pair(name, port);
+    if (std::exchange(m_announced, announced) != announced)
+        m_program.nearby().announce(name, port);
 }
 
 void ReceivedNotes::tell(const Notice &notice)

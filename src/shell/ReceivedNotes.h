@@ -55,6 +55,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void announce();
     void take(const Packet &packet, const QHostAddress &peer);
     void keep(clsNoteProps record);
     void create(clsNoteProps record, const QString &sender, const QHostAddress &peer);
@@ -67,6 +68,9 @@ private:
     QWidget *m_panel;
     SenderPolicy m_policy;
     NoteReceiver m_server; // tcpSendServer
+    quint16 m_port = 0;    ///< That is listened on.
+    bool m_isStopped = false;
+    std::pair<QString, quint16> m_announced; ///< The name and the port, 0 while nothing is announced.
     std::vector<ReceivedNote> m_notes;
     QDateTime m_rang; ///< When the last note came that makes a sound.
 };

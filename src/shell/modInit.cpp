@@ -21,6 +21,7 @@
 #include "platform/SystemChoosers.h"
 #include "platform/SystemClock.h"
 #include "platform/SystemKeyring.h"
+#include "platform/SystemNearby.h"
 #include "platform/SystemPrinting.h"
 #include "platform/SystemPrompts.h"
 #include "platform/SystemSound.h"
@@ -244,7 +245,8 @@ int Main(int argc, char *argv[])
     Services services{std::make_unique<SystemClock>(),    std::make_unique<SystemPrompts>(),
                       std::make_unique<SystemChoosers>(), std::make_unique<SystemPrinting>(),
                       std::make_unique<SystemBrowser>(),  std::make_unique<SystemSound>(paths.SoundModule),
-                      std::make_unique<SystemKeyring>(),  Pictures(paths.ImagesFolder)};
+                      std::make_unique<SystemKeyring>(),  std::make_unique<SystemNearby>(),
+                      Pictures(paths.ImagesFolder)};
     Program program(std::move(services), paths, QGuiApplication::primaryScreen()->logicalDotsPerInch());
     if (!checkComponents(program))
         return 1;

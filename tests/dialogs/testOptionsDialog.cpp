@@ -191,6 +191,7 @@ void testOptionsDialog::network()
     QTest::keyClick(&control<QWidget>(*m_dialog, "comAcceptFrom"), Qt::Key_Down);
     QTest::keyClick(&control<QWidget>(*m_dialog, "comMailSecurity"), Qt::Key_End);
     control<QCheckBox>(*m_dialog, "chkFarSenders").click();
+    control<QCheckBox>(*m_dialog, "chkAnnounce").click();
     QTest::keyClicks(&control<QLineEdit>(*m_dialog, "txtBlockedSenders"), u"10.0.0.1,fe80::9; "_s);
     type(*m_dialog, "txtMailPort", u"4650"_s);
     QTest::keyClicks(&control<QLineEdit>(*m_dialog, "txtMailUser"), u"ann@x.example"_s);
@@ -200,6 +201,7 @@ void testOptionsDialog::network()
     const clsNetworkSettings expected{.AcceptFrom = clsNetworkSettings::Senders::SendBook,
                                       .FarSendersOn = true,
                                       .BlockedSenders = {u"10.0.0.1"_s, u"fe80::9"_s},
+                                      .AnnounceOn = true,
                                       .MailSecurity = clsNetworkSettings::Security::Tls,
                                       .MailPort = 4650,
                                       .MailUser = u"ann@x.example"_s};

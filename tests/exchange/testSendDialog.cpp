@@ -49,6 +49,7 @@ private slots:
     void aliasFromTheBook();
     void recentTargets();
     void keysOfTheTargets();
+    void computersNearby();
 
 private:
     QByteArray packet() const;
@@ -234,6 +235,26 @@ void testSendDialog::keysOfTheTargets()
     QVERIFY(to().view()->isVisible());
     QCOMPARE(to().currentText(), u"127.0.0.1@9"_s);
     to().hidePopup();
+}
+
+void testSendDialog::computersNearby()
+{
+    FakeNearby &nearby = m_test->nearby;
+    nearby.there = {{u"Ann, (\u202Ehome)\n"_s, u"desk.local"_s, 1420},
+                    {u"Bob"_s, u"lab.local"_s, 1500},
+                    {u"Bob"_s, u"lab.local"_s, 1500},
+                    {u"Eve"_s, u"10.0.0.1, all"_s, 1420}};
+    to().setEditText(u"typed"_s);
+    QTest::keyClick(&to(), Qt::Key_Down);
+    QVERIFY(nearby.isLooking);
+    QCOMPARE(to().count(), 3);
+    QCOMPARE(to().itemText(1), u"desk.local (Ann home)"_s);
+    QCOMPARE(to().itemText(2), u"lab.local@1500 (Bob)"_s);
+    to().view()->setCurrentIndex(to().model()->index(2, 0));
+    QTest::keyClick(to().view(), Qt::Key_Return);
+    QTRY_VERIFY(!nearby.isLooking);
+    QCOMPARE(to().currentText(), u"lab.local@1500 (Bob)"_s);
+    QCOMPARE(to().count(), 1);
 }
 
 QTEST_MAIN(testSendDialog)

@@ -45,6 +45,7 @@ private slots:
     void blocking();
     void limitIsToldOnce();
     void portInUse();
+    void announcing();
     void arrivesAsTheProgramEnds();
 
 private:
@@ -225,6 +226,19 @@ void testReceiving::portInUse()
     QTRY_VERIFY(m_fixture->test.prompts.isDone());
     QCOMPARE(m_fixture->test.prompts.last,
              (Message{u"Port is in use.  Networking disabled."_s, u"Error"_s, Message::Icon::Critical}));
+}
+
+void testReceiving::announcing()
+{
+    const FakeNearby &nearby = m_fixture->test.nearby;
+    QCOMPARE(nearby.port, quint16(0));
+    m_fixture->program.NetworkSettings.AnnounceOn = true;
+    m_fixture->program.ProgramOptions.NameName = u"Ann"_s;
+    m_panel->findChild<ReceivedNotes *>()->settingsChanged();
+    QCOMPARE(nearby.port, m_port);
+    QVERIFY(nearby.name.startsWith(u"Ann on "));
+    m_panel->keepPlace();
+    QCOMPARE(nearby.port, quint16(0));
 }
 
 /// The sender was told that it was received.

@@ -6,6 +6,7 @@
 #include "support/FakeBrowser.h"
 #include "support/FakeClock.h"
 #include "support/FakeKeyring.h"
+#include "support/FakeNearby.h"
 #include "support/FakePrinting.h"
 #include "support/FakeSound.h"
 #include "support/ScriptedChoosers.h"
@@ -37,7 +38,8 @@ public:
         : clock(put<FakeClock>(m_services.clock, now)), prompts(put<ScriptedPrompts>(m_services.prompts)),
           choosers(put<ScriptedChoosers>(m_services.choosers)), printing(put<FakePrinting>(m_services.printing)),
           browser(put<FakeBrowser>(m_services.browser)), sound(put<FakeSound>(m_services.sound)),
-          keyring(put<FakeKeyring>(m_services.keyring)), program(services(paths), paths, 96)
+          keyring(put<FakeKeyring>(m_services.keyring)), nearby(put<FakeNearby>(m_services.nearby)),
+          program(services(paths), paths, 96)
     {}
 
     FakeClock &clock;
@@ -47,5 +49,6 @@ public:
     FakeBrowser &browser;
     FakeSound &sound;
     FakeKeyring &keyring;
+    FakeNearby &nearby;
     Program program;
 };
