@@ -66,6 +66,7 @@ frmMenu::frmMenu(Program &program)
     makeGrip();
     makeTray();
     makeReceived();
+    setAcceptDrops(true);
     makeShortcuts();
 }
 

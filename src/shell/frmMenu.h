@@ -43,6 +43,9 @@ protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     static constexpr size_t Commands = 8;
@@ -60,6 +63,7 @@ private:
     void runFromTray(PanelCommand command);
     void refuse(QWidget &modal);
     void perform(PanelCommand command);
+    void importFiles(const QStringList &paths);
     void openOptions();
     void openAbout();
     void minimised();
