@@ -54,6 +54,7 @@ private:
     void makeLogo();
     void makeTray();
     void makeGrip();
+    void dressGrip();
     void makeShortcuts();
     void makeReceived();
     void layOutLogo(int width);
