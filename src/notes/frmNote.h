@@ -95,6 +95,7 @@ private:
     void EndTextEditing();
     void LayoutNote();
     void dressInk();
+    void coloursChanged();
     void startMove(QPoint globalPosition);
     void endMove();
     void scrollStep();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "notes/frmNote.h"
 
+#include "drawing/colours.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
 #include "forms/modFormsHiding.h"
@@ -102,6 +103,16 @@ void frmNote::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
         m_place.endKeys();
+    if (event->type() == QEvent::PaletteChange && !isUnloaded() && Tag() != 0)
+        coloursChanged();
+}
+
+/// Some of a note's colours may be those of the desktop.
+void frmNote::coloursChanged()
+{
+    m_note.mixInk();
+    m_flash.setNormal(colours::fromLong(m_note.record.BackColor));
+    dressInk();
 }
 
 void frmNote::runOwn(NoteCommand command)

@@ -203,6 +203,20 @@ void frmNoteStack::showEmpty()
     m_grip->raise();
 }
 
+/// Some of the notes' colours may be those of the desktop, and the empty state's are.
+void frmNoteStack::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || m_menus == nullptr || m_closing)
+        return;
+    for (const qint32 tag : tags()) {
+        LiveNote &note = *live(tag);
+        note.mixInk();
+        m_tabs->setInk(m_notes->indexOf(tag), note.ink);
+    }
+    SetActivatedForm();
+}
+
 void frmNoteStack::showLock(LiveNote &note)
 {
     if (&note == chosen())

@@ -32,6 +32,10 @@ public:
 
     /// The path of an existing file.
     virtual std::optional<QString> openFile(const FileRequest &request, QWidget *owner) = 0;
+    /// The paths of existing files; none is Cancel.
+    virtual QStringList openFiles(const FileRequest &request, QWidget *owner) = 0;
+    /// The path of an existing folder.
+    virtual std::optional<QString> folder(const QString &title, QWidget *owner) = 0;
     virtual std::optional<QColor> colour(const QColor &current, QWidget *owner) = 0;
     virtual std::optional<QFont> font(const QFont &current, QWidget *owner) = 0;
 };

@@ -57,16 +57,48 @@ std::optional<Result> resultOf(Dialog *made, const QString &name, Result (*resul
 
 } // namespace
 
-std::optional<QString> SystemChoosers::openFile(const FileRequest &request, QWidget *owner)
+namespace
+{
+
+QStringList chosenFiles(QFileDialog *dialog, QFileDialog::FileMode mode)
+{
+    dialog->setFileMode(mode);
+    return resultOf<QFileDialog, QStringList>(dialog, QStringLiteral("FileChooser"),
+                                              [](const QFileDialog &done) { return done.selectedFiles(); })
+        .value_or(QStringList());
+}
+
+QFileDialog *fileDialog(const FileRequest &request, QWidget *owner)
 {
     auto *dialog = new QFileDialog(owner, request.title);
-    dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters(request.filters);
     if (!request.current.isEmpty())
         dialog->selectFile(request.current);
-    const auto chosen = resultOf<QFileDialog, QStringList>(
-        dialog, QStringLiteral("FileChooser"), [](const QFileDialog &done) { return done.selectedFiles(); });
-    return chosen && !chosen->isEmpty() ? std::optional(chosen->constFirst()) : std::nullopt;
+    return dialog;
+}
+
+std::optional<QString> firstOf(const QStringList &paths)
+{
+    return paths.isEmpty() ? std::nullopt : std::optional(paths.constFirst());
+}
+
+} // namespace
+
+std::optional<QString> SystemChoosers::openFile(const FileRequest &request, QWidget *owner)
+{
+    return firstOf(chosenFiles(fileDialog(request, owner), QFileDialog::ExistingFile));
+}
+
+QStringList SystemChoosers::openFiles(const FileRequest &request, QWidget *owner)
+{
+    return chosenFiles(fileDialog(request, owner), QFileDialog::ExistingFiles);
+}
+
+std::optional<QString> SystemChoosers::folder(const QString &title, QWidget *owner)
+{
+    auto *dialog = new QFileDialog(owner, title);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    return firstOf(chosenFiles(dialog, QFileDialog::Directory));
 }
 
 std::optional<QColor> SystemChoosers::colour(const QColor &current, QWidget *owner)

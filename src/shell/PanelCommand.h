@@ -19,5 +19,7 @@ enum class PanelCommand
     ShowOrHideAll,
     Find,
     Restore,
+    Export,
+    Import,
     None
 };

@@ -14,10 +14,12 @@ struct Entry
 };
 
 constexpr Entry Entries[] = {
-    {"mnuFind", QT_TRANSLATE_NOOP("PanelMenu", "Find in all notes"), "Ctrl+F", PanelCommand::Find},
-    {"mnuShowOrHide", QT_TRANSLATE_NOOP("PanelMenu", "Show or hide all notes"), "Ctrl+Shift+H",
+    {"mnuFind", QT_TRANSLATE_NOOP("PanelMenu", "&Find in All Notes"), "Ctrl+F", PanelCommand::Find},
+    {"mnuShowOrHide", QT_TRANSLATE_NOOP("PanelMenu", "&Show or Hide All Notes"), "Ctrl+Shift+H",
      PanelCommand::ShowOrHideAll},
     {"mnuRestore", QT_TRANSLATE_NOOP("PanelMenu", "&Restore Notes..."), "", PanelCommand::Restore},
+    {"mnuExport", QT_TRANSLATE_NOOP("PanelMenu", "&Export Notes..."), "", PanelCommand::Export},
+    {"mnuImport", QT_TRANSLATE_NOOP("PanelMenu", "&Import Notes..."), "", PanelCommand::Import},
 };
 
 } // namespace

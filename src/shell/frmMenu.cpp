@@ -66,6 +66,7 @@ frmMenu::frmMenu(Program &program)
     makeGrip();
     makeTray();
     makeReceived();
+    setAcceptDrops(true);
     makeShortcuts();
 }
 
@@ -118,6 +119,11 @@ void frmMenu::makeShortcuts()
 void frmMenu::makeGrip()
 {
     m_grip = new SizeGrip(m_program.pictures(), m_drag, this);
+    dressGrip();
+}
+
+void frmMenu::dressGrip()
+{
     QColor ink = palette().color(QPalette::WindowText);
     ink.setAlphaF(0.45F);
     m_grip->setInk(ink);
@@ -154,6 +160,8 @@ void frmMenu::keepPlace()
 void frmMenu::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_grip != nullptr)
+        dressGrip();
     if (event->type() != QEvent::WindowStateChange)
         return;
     if (isMinimized())

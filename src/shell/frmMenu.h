@@ -44,6 +44,9 @@ protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     static constexpr size_t Commands = 8;
@@ -52,6 +55,7 @@ private:
     void makeLogo();
     void makeTray();
     void makeGrip();
+    void dressGrip();
     void makeShortcuts();
     void makeReceived();
     void layOutLogo(int width);
@@ -62,6 +66,7 @@ private:
     void refuse(QWidget &modal);
     void grabKeys();
     void perform(PanelCommand command);
+    void importFiles(const QStringList &paths);
     void openOptions();
     void openAbout();
     void minimised();

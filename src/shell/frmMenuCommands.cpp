@@ -19,9 +19,13 @@
 #include "shell/frmAbout.h"
 #include "shell/frmMenu.h"
 #include "shell/modInitEnd.h"
+#include "transfer/noteSources.h"
+#include "transfer/windows/noteExport.h"
+#include "transfer/windows/noteImport.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QMimeData>
 
 #include <array>
 
@@ -136,6 +140,53 @@ void frmMenu::contextMenuEvent(QContextMenuEvent *event)
     menu->popup(event->globalPos());
 }
 
+namespace
+{
+
+/// The files of a drop that notes can be made of.
+QStringList noteFilesOf(const QMimeData &dropped)
+{
+    QStringList paths;
+    for (const QUrl &url : dropped.urls())
+        if (url.isLocalFile() && noteSources::isKnown(url.toLocalFile()))
+            paths.append(url.toLocalFile());
+    return paths;
+}
+
+} // namespace
+
+void frmMenu::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setAccepted(!noteFilesOf(*event->mimeData()).isEmpty());
+}
+
+/// Asked of what was let in.
+void frmMenu::dragMoveEvent(QDragMoveEvent *event)
+{
+    event->accept();
+}
+
+void frmMenu::dropEvent(QDropEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // A dialog opens: whoever the files come from is let go first.
+    QMetaObject::invokeMethod(
+        this, [this, paths = noteFilesOf(*event->mimeData())] { importFiles(paths); }, Qt::QueuedConnection);
+}
+
+void frmMenu::importFiles(const QStringList &paths)
+{
+    if (m_pressGuard || m_program.Exiting || QApplication::activeModalWidget() != nullptr)
+        return;
+    m_pressGuard = true;
+    const QPointer<frmMenu> self = this;
+    windowStacking::SetForegroundWindow(*this);
+    noteImport::run(m_program, this, paths);
+    if (self != nullptr)
+        m_pressGuard = false;
+}
+
 void frmMenu::perform(PanelCommand command)
 {
     switch (command) {
@@ -173,6 +224,12 @@ void frmMenu::perform(PanelCommand command)
         break;
     case PanelCommand::Restore:
         restoring::openRestore(m_program, isVisible() ? this : nullptr);
+        break;
+    case PanelCommand::Export:
+        noteExport::run(m_program, isVisible() ? this : nullptr);
+        break;
+    case PanelCommand::Import:
+        noteImport::run(m_program, isVisible() ? this : nullptr);
         break;
     case PanelCommand::ShowOrHideAll:
         modForms::ShowOrHideAll(m_program);

@@ -13,6 +13,7 @@ class ScriptedChoosers final : public Choosers
 {
 public:
     std::deque<std::optional<QString>> files;
+    std::deque<std::optional<QStringList>> manyFiles;
     std::deque<std::optional<QColor>> colours;
     std::deque<std::optional<QFont>> fonts;
     FileRequest lastRequest;
@@ -22,6 +23,12 @@ public:
         lastRequest = request;
         return take(files);
     }
+    QStringList openFiles(const FileRequest &request, QWidget *) override
+    {
+        lastRequest = request;
+        return take(manyFiles).value_or(QStringList());
+    }
+    std::optional<QString> folder(const QString &, QWidget *) override { return take(files); }
     std::optional<QColor> colour(const QColor &, QWidget *) override { return take(colours); }
     std::optional<QFont> font(const QFont &, QWidget *) override { return take(fonts); }
 

@@ -57,9 +57,15 @@ void LiveNote::takeTyped()
     markChanged();
 }
 
-void LiveNote::dress(const QFont &base)
+void LiveNote::mixInk()
 {
     ink = NoteInk::from(record.BackColor, record.ForeColor);
+    body.setInk(ink);
+}
+
+void LiveNote::dress(const QFont &base)
+{
+    mixInk();
     body.setLook(noteFont::of(record, base), ink);
     if (!locked)
         body.setText(record.Data);

@@ -35,6 +35,8 @@ public:
     void markChanged();
     /// Puts what is being typed into the record; the editor stays as it is.
     void takeTyped();
+    /// The ink alone as the record has it, after a change of the desktop's colours.
+    void mixInk();
     /// Ink, font and text as the record has them; `base` is the font of the window.
     void dress(const QFont &base);
     void setLocked(bool on);

@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "transfer/noteReaders.h"
+
+#include "transfer/plainTexts.h"
+
+#include <QHash>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+namespace
+{
+
+constexpr qsizetype LongestTitle = 200;
+constexpr qsizetype MostEntries = 1000; ///< Of one file.
+
+/// The first line of a text that has something in it, cut to a title.
+QString firstLine(const QString &text)
+{
+    return text.trimmed().section(QLatin1String("\r\n"), 0, 0).trimmed().left(LongestTitle);
+}
+
+/// Formats break lines where they like; the title is written again at the beginning by some.
+QString withoutTitle(const QString &text, const QString &title)
+{
+    const QString first = text.section(QLatin1String("\r\n"), 0, 0);
+    if (first.trimmed() != title)
+        return text;
+    QString rest = text.mid(first.size());
+    while (rest.startsWith(QLatin1String("\r\n")))
+        rest = rest.mid(2);
+    return rest;
+}
+
+/// The text inside the element that was begun; each entry of a list is a line.
+QString contentOf(QXmlStreamReader &xml)
+{
+    QString text;
+    for (int depth = 1; depth > 0 && !xml.atEnd();) {
+        xml.readNext();
+        if (xml.isCharacters())
+            text += xml.text();
+        else if (xml.isStartElement())
+            ++depth;
+        else if (xml.isEndElement())
+            --depth;
+        const bool endsEntry = xml.isEndElement() && xml.name() == QLatin1String("list-item");
+        if (endsEntry && !text.endsWith(u'\n'))
+            text += u'\n';
+    }
+    return plainTexts::withNoteLines(text);
+}
+
+/// "name;parameters:value" of a calendar, with what its value means.
+struct Property
+{
+    QString name;
+    QString value;
+};
+
+std::optional<Property> propertyOf(const QString &line)
+{
+    const qsizetype colon = line.indexOf(u':');
+    if (colon <= 0)
+        return std::nullopt;
+    QString value;
+    for (qsizetype at = colon + 1; at < line.size(); ++at) {
+        const bool isEscaped = line.at(at) == u'\\' && at + 1 < line.size();
+        const QChar sign = isEscaped ? line.at(++at) : line.at(at);
+        value += isEscaped && sign.toLower() == u'n' ? QChar(u'\n') : sign;
+    }
+    return Property{line.left(colon).section(u';', 0, 0).toUpper(), value};
+}
+
+bool looksLikeHtml(const QString &text)
+{
+    return text.startsWith(QLatin1String("<!DOCTYPE"), Qt::CaseInsensitive) ||
+           text.startsWith(QLatin1String("<html"), Qt::CaseInsensitive);
+}
+
+QDateTime calendarDate(const QString &value)
+{
+    const bool isUtc = value.endsWith(u'Z');
+    QDateTime date = QDateTime::fromString(value.left(15), QStringLiteral("yyyyMMdd'T'HHmmss"));
+    if (isUtc)
+        date.setTimeSpec(Qt::UTC);
+    return date;
+}
+
+void take(CarriedNote &note, const Property &property)
+{
+    if (property.name == QLatin1String("SUMMARY"))
+        note.title = property.value.simplified().left(LongestTitle);
+    else if (property.name == QLatin1String("DESCRIPTION"))
+        note.text = looksLikeHtml(property.value) ? plainTexts::fromHtml(property.value)
+                                                  : plainTexts::withNoteLines(property.value);
+    else if (property.name == QLatin1String("CREATED"))
+        note.date = calendarDate(property.value);
+    else if (property.name == QLatin1String("X-KDE-KNOTES-BGCOLOR"))
+        note.backColour = plainTexts::colour(property.value);
+    else if (property.name == QLatin1String("X-KDE-KNOTES-FGCOLOR"))
+        note.textColour = plainTexts::colour(property.value);
+}
+
+/// "key value" lines.
+QHash<QString, QString> valuesOf(const QByteArray &bytes)
+{
+    QHash<QString, QString> values;
+    for (const QString &line : plainTexts::decoded(bytes).split(QLatin1String("\r\n")))
+        values.insert(line.section(u' ', 0, 0), line.section(u' ', 1).trimmed());
+    return values;
+}
+
+/// In one value, or in three of 16 bits each.
+std::optional<qint32> colourIn(const QHash<QString, QString> &values, const QString &key)
+{
+    if (const auto one = plainTexts::colour(values.value(key)))
+        return one;
+    qint32 result = 0;
+    int shift = 0;
+    for (const char *part : {"_red", "_green", "_blue"}) {
+        bool isNumber = false;
+        const uint value = values.value(key + QLatin1String(part)).toUInt(&isNumber);
+        if (!isNumber)
+            return std::nullopt;
+        result |= static_cast<qint32>(qMin(value, 0xFFFFU) >> 8) << shift;
+        shift += 8;
+    }
+    return result;
+}
+
+} // namespace
+
+CarriedNote noteReaders::ofText(const QString &name, const QByteArray &bytes)
+{
+    return {.title = name.left(LongestTitle), .text = plainTexts::decoded(bytes)};
+}
+
+CarriedNote noteReaders::ofMarkdown(const QString &name, const QByteArray &bytes)
+{
+    static const QRegularExpression heading(QStringLiteral("^\\s*# +([^\\r\\n]*?)[ #]*(\\r\\n|$)"));
+    static const QRegularExpression hardBreak(QStringLiteral("  +(?=\\r\\n)"));
+    static const QRegularExpression task(QStringLiteral("(^|\\n)([ \\t]*)[-*+] (\\[[ xX]\\])"));
+    CarriedNote note = ofText(name, bytes);
+    if (const auto match = heading.match(note.text); match.hasMatch() && !match.captured(1).isEmpty()) {
+        note.title = match.captured(1).left(LongestTitle);
+        note.text = note.text.mid(match.capturedEnd());
+        if (note.text.startsWith(QLatin1String("\r\n")))
+            note.text = note.text.mid(2);
+    }
+    note.text.remove(hardBreak).replace(task, QStringLiteral("\\1\\2\\3"));
+    return note;
+}
+
+std::optional<CarriedNote> noteReaders::ofGnote(const QByteArray &bytes)
+{
+    QXmlStreamReader xml(bytes);
+    CarriedNote note;
+    bool isNote = false;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        isNote = isNote || xml.name() == QLatin1String("note");
+        if (xml.name() == QLatin1String("title"))
+            note.title = xml.readElementText(QXmlStreamReader::IncludeChildElements).simplified().left(LongestTitle);
+        else if (xml.name() == QLatin1String("note-content"))
+            note.text = contentOf(xml);
+        else if (xml.name() == QLatin1String("create-date"))
+            note.date = QDateTime::fromString(xml.readElementText(), Qt::ISODateWithMs);
+        else if (xml.name() == QLatin1String("tag") && xml.readElementText() == QLatin1String("system:template"))
+            return std::nullopt;
+    }
+    if (!isNote || xml.hasError())
+        return std::nullopt;
+    note.text = withoutTitle(note.text, note.title);
+    return note;
+}
+
+CarriedNote noteReaders::ofXpad(const QByteArray &content, const QByteArray &info)
+{
+    const QHash<QString, QString> values = valuesOf(info);
+    CarriedNote note{.title = QString(), .text = plainTexts::decoded(content)};
+    note.title = firstLine(note.text);
+    note.backColour = colourIn(values, QStringLiteral("back"));
+    note.textColour = colourIn(values, QStringLiteral("text"));
+    return note;
+}
+
+std::vector<CarriedNote> noteReaders::ofCalendar(const QByteArray &bytes)
+{
+    static const QRegularExpression folded(QStringLiteral("\\r\\n[ \\t]"));
+    std::vector<CarriedNote> notes;
+    bool isInside = false;
+    for (const QString &line : plainTexts::decoded(bytes).remove(folded).split(QLatin1String("\r\n"))) {
+        const auto property = propertyOf(line);
+        if (!property)
+            continue;
+        const bool isJournal = property->value.trimmed().compare(QLatin1String("VJOURNAL"), Qt::CaseInsensitive) == 0;
+        if (property->name == QLatin1String("BEGIN") && isJournal && std::ssize(notes) < MostEntries) {
+            notes.emplace_back();
+            isInside = true;
+        } else if (property->name == QLatin1String("END") && isJournal) {
+            isInside = false;
+        } else if (isInside) {
+            take(notes.back(), *property);
+        }
+    }
+    return notes;
+}

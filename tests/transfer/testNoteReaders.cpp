@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The Quillets developers
+// SPDX-License-Identifier: MIT
+#include "transfer/noteReaders.h"
+#include "transfer/noteSources.h"
+#include "transfer/plainTexts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// What others' files become.
+class testNoteReaders final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void bytes_data();
+    void bytes();
+    void pages_data();
+    void pages();
+    void colours_data();
+    void colours();
+    void markdown_data();
+    void markdown();
+    void gnote_data();
+    void gnote();
+    void calendars();
+    void pads();
+    void everyTruncation();
+    void foundInTheirPlaces();
+    void chosenFiles();
+};
+
+void testNoteReaders::bytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("UTF-8") << QByteArray("a\xc3\xa9\nb") << u"aé\r\nb"_s;
+    QTest::newRow("with a mark") << QByteArray("\xef\xbb\xbf"
+                                               "a")
+                                 << u"a"_s;
+    QTest::newRow("UTF-16") << QByteArray("\xff\xfe"
+                                          "a\0\r\0\n\0b\0",
+                                          10)
+                            << u"a\r\nb"_s;
+    QTest::newRow("Latin-1") << QByteArray("caf\xe9\rb") << u"café\r\nb"_s;
+    QTest::newRow("a zero") << QByteArray("a\0b", 3) << u"ab"_s;
+    QTest::newRow("nothing") << QByteArray() << QString();
+}
+
+void testNoteReaders::bytes()
+{
+    QFETCH(QByteArray, bytes);
+    const QString text = plainTexts::decoded(bytes);
+    QTEST(text, "text");
+}
+
+void testNoteReaders::pages_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("page") << u"<html><head><style>p { a }</style></head><body>\n<p>One  <b>two</b></p>\n<p>a &lt; b "
+                             "&amp;amp; &#233;&#x20AC;</p></body></html>"_s
+                          << u"One two\r\na < b &amp; é€"_s;
+    QTest::newRow("breaks") << u"a<br>b<BR/>c<ul><li>d</li><li>e</li></ul>"_s << u"a\r\nb\r\ncd\r\ne"_s;
+    QTest::newRow("script") << u"a<script>alert('<b>')</script>b<!-- c -->"_s << u"ab"_s;
+    QTest::newRow("no entity") << u"a & b; &#xD800; &#0; &nothing; &#99999999;"_s
+                               << u"a & b; &#xD800; &#0; &nothing; &#99999999;"_s;
+    QTest::newRow("cut off") << u"a <b"_s << u"a <b"_s;
+}
+
+void testNoteReaders::pages()
+{
+    QFETCH(QString, html);
+    const QString text = plainTexts::fromHtml(html);
+    QTEST(text, "text");
+}
+
+void testNoteReaders::colours_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("colour"); // -1 for none
+    QTest::newRow("hex") << u"#ff8001"_s << 0x0180FF;
+    QTest::newRow("wide") << u"#ffff80800101"_s << 0x0180FF;
+    QTest::newRow("parts") << u"rgb(255,128, 1)"_s << 0x0180FF;
+    QTest::newRow("with opacity") << u"rgba(255,128,1,0.5)"_s << 0x0180FF;
+    QTest::newRow("too much") << u"rgb(999,0,0)"_s << 0x0000FF;
+    QTest::newRow("name") << u"red"_s << -1;
+    QTest::newRow("nothing") << QString() << -1;
+}
+
+void testNoteReaders::colours()
+{
+    QFETCH(QString, text);
+    const int colour = plainTexts::colour(text).value_or(-1);
+    QTEST(colour, "colour");
+}
+
+void testNoteReaders::markdown_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("heading") << QByteArray("# A title #\n\nfirst  \nsecond\n") << u"A title"_s
+                             << u"first\r\nsecond\r\n"_s;
+    QTest::newRow("tasks") << QByteArray("- [ ] a\n  * [x] b\n- c") << u"file"_s << u"[ ] a\r\n  [x] b\r\n- c"_s;
+    QTest::newRow("heading further down") << QByteArray("a\n# b") << u"file"_s << u"a\r\n# b"_s;
+    QTest::newRow("no heading") << QByteArray("#tag") << u"file"_s << u"#tag"_s;
+}
+
+void testNoteReaders::markdown()
+{
+    QFETCH(QByteArray, bytes);
+    const CarriedNote note = noteReaders::ofMarkdown(u"file"_s, bytes);
+    QTEST(note.title, "title");
+    QTEST(note.text, "text");
+}
+
+namespace
+{
+
+const QByteArray GnoteFile = R"(<?xml version="1.0" encoding="utf-8"?>
+<note version="0.3" xmlns:link="http://beatniksoftware.com/tomboy/link" xmlns="http://beatniksoftware.com/tomboy">
+<title>Trip &amp; tour</title>
+<text xml:space="preserve"><note-content version="0.1">Trip &amp; tour
+
+Pack <bold>warm</bold> things:
+<list><list-item dir="ltr">socks
+</list-item><list-item dir="ltr">hat</list-item></list></note-content></text>
+<create-date>2025-05-06T07:08:09.1234560+02:00</create-date>%1</note>)";
+
+const QByteArray Calendar =
+    "BEGIN:VCALENDAR\r\nBEGIN:VJOURNAL\r\nSUMMARY:To do\\, soon\r\nCREATED:20250506T070809Z\r\n"
+    "X-KDE-KNotes-BgColor:#ff8001\r\nDESCRIPTION;X=1:first\\nsec\r\n ond \\\\ \\; end\r\nEND:VJOURNAL\r\n"
+    "SUMMARY:outside\r\nBEGIN:VTODO\r\nEND:VTODO\r\nBEGIN:VJOURNAL\r\nDESCRIPTION:<html><p>a</p><p>b"
+    "</p></html>\r\nEND:VJOURNAL\r\nEND:VCALENDAR\r\n";
+
+void put(const QString &path, const QByteArray &bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+} // namespace
+
+void testNoteReaders::gnote_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isNote");
+    QByteArray good = GnoteFile;
+    QTest::newRow("note") << good.replace("%1", "<tags><tag>work</tag></tags>") << true;
+    QByteArray pattern = GnoteFile;
+    QTest::newRow("template") << pattern.replace("%1", "<tags><tag>system:template</tag></tags>") << false;
+    QTest::newRow("something else") << QByteArray("<html><title>a</title></html>") << false;
+    QTest::newRow("broken") << QByteArray("<note><title>a</note>") << false;
+    QByteArray bomb = "<!DOCTYPE note [<!ENTITY a \"aaaaaaaaaa\">";
+    for (char c = 'b'; c < 'k'; ++c)
+        bomb +=
+            QByteArray("<!ENTITY ") + c + " \"" + QByteArray(QByteArray("&") + char(c - 1) + ";").repeated(10) + "\">";
+    QTest::newRow("a bomb") << bomb + "]><note><title>&j;</title></note>" << false;
+}
+
+void testNoteReaders::gnote()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, isNote);
+    const auto note = noteReaders::ofGnote(bytes);
+    QCOMPARE(note.has_value(), isNote);
+    if (!note)
+        return;
+    QCOMPARE(note->title, u"Trip & tour"_s);
+    QCOMPARE(note->text.trimmed(), u"Pack warm things:\r\nsocks\r\nhat"_s);
+    QCOMPARE(note->date.toUTC().toString(Qt::ISODate), u"2025-05-06T05:08:09Z"_s);
+}
+
+void testNoteReaders::calendars()
+{
+    const auto notes = noteReaders::ofCalendar(Calendar);
+    QCOMPARE(notes.size(), size_t(2));
+    QCOMPARE(notes[0], (CarriedNote{u"To do, soon"_s, u"first\r\nsecond \\ ; end"_s,
+                                    QDateTime(QDate(2025, 5, 6), QTime(7, 8, 9), Qt::UTC), 0x0180FF}));
+    QCOMPARE(notes[1].text, u"a\r\nb"_s);
+}
+
+void testNoteReaders::pads()
+{
+    const CarriedNote note = noteReaders::ofXpad("\n  first line \nsecond", "back_red 65535\nback_green 32896\n"
+                                                                            "back_blue 257\ntext #010203\n");
+    QCOMPARE(note.title, u"first line"_s);
+    QCOMPARE(note.backColour, 0x0180FF);
+    QCOMPARE(note.textColour, 0x030201);
+    QCOMPARE(noteReaders::ofXpad("a", "back_red 1\nback_green no").backColour, std::nullopt);
+}
+
+/// None of them ends the program, and what is no note gives none.
+void testNoteReaders::everyTruncation()
+{
+    for (qsizetype keep = 0; keep < GnoteFile.size() - 7; ++keep)
+        QVERIFY(!noteReaders::ofGnote(GnoteFile.first(keep)));
+    for (qsizetype keep = 0; keep < Calendar.size(); ++keep)
+        QVERIFY(noteReaders::ofCalendar(Calendar.first(keep)).size() <= 2);
+}
+
+void testNoteReaders::foundInTheirPlaces()
+{
+    const QTemporaryDir home;
+    QVERIFY(noteSources::found(home.path(), home.path()).empty());
+    put(home.filePath(u"gnote/a.note"_s), QByteArray(GnoteFile).replace("%1", ""));
+    put(home.filePath(u"gnote/b.note"_s), "no note");
+    put(home.filePath(u"xpad/content-1"_s), "a pad");
+    put(home.filePath(u"xpad/content-2"_s), " \n");
+    put(home.filePath(u"xpad/info-1"_s), "back #ff8001");
+    put(home.filePath(u"knotes/notes.ics"_s), Calendar);
+    const auto sources = noteSources::found(home.path(), home.path());
+    QStringList all;
+    for (const auto &source : sources)
+        all.append(u"%1 %2"_s.arg(source.program).arg(source.notes.size()));
+    QCOMPARE(all, (QStringList{u"xpad 1"_s, u"Gnote 1"_s, u"KNotes 2"_s}));
+    QCOMPARE(sources[0].notes[0].backColour, 0x0180FF);
+    QVERIFY(sources[0].notes[0].date.isValid());
+}
+
+void testNoteReaders::chosenFiles()
+{
+    const QTemporaryDir home;
+    put(home.filePath(u"Some words.v2.TXT"_s), "text");
+    put(home.filePath(u"b.md"_s), "# Heading\n\ntext");
+    put(home.filePath(u"c.png"_s), "text");
+    put(home.filePath(u"d.note"_s), "no note");
+    QStringList paths;
+    for (const QString &name : {u"Some words.v2.TXT"_s, u"b.md"_s, u"c.png"_s, u"d.note"_s, u"missing.txt"_s})
+        paths.append(home.filePath(name));
+    const auto read = noteSources::ofFiles(paths);
+    QCOMPARE(read.notes.size(), size_t(2));
+    QCOMPARE(read.notes[0].title, u"Some words.v2"_s);
+    QCOMPARE(read.notes[1].title, u"Heading"_s);
+    QCOMPARE(read.refused, paths.mid(2));
+}
+
+QTEST_APPLESS_MAIN(testNoteReaders)
+#include "testNoteReaders.moc"
