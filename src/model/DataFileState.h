@@ -4,6 +4,7 @@
 
 #include "model/DataImage.h"
 #include "model/ProgramPaths.h"
+#include "model/journalFile.h"
 
 #include <QDateTime>
 
@@ -14,7 +15,7 @@ struct DataFileState
 {
     ProgramPaths paths;
     DataImage image;
-    DataImage disk; ///< What the data file holds: the image as it was last read or written.
+    DataImage disk; ///< What the data file holds of the notes in the image.
     bool LoadingData = false;
     bool SavingData = false;
     bool unsaved = false; ///< The image is ahead of the disk.
@@ -22,6 +23,9 @@ struct DataFileState
     QString readOnlyReason;
     /// The load of that moment could not keep its damaged data file aside; nothing is written before that is done.
     std::optional<QDateTime> asideOwedSince;
+    /// Entries of the journal that no window shows: the file was unreadable, or there was no room. They stay in the
+    /// journal until the data file holds them.
+    std::vector<JournalEntry> carried;
     /// The data file as it was last read or written. Times alone prove nothing: some file systems round them later.
     struct Stamp
     {

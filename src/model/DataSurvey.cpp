@@ -107,7 +107,7 @@ void Surveyor::takeNote(int number, QByteArrayView record)
         passOver(number, toText(decoded.error()));
         return;
     }
-    m_survey.notes.push_back({number, std::move(decoded).value().note, record});
+    m_survey.notes.push_back({number, std::move(decoded).value().note, record, {}});
 }
 
 void Surveyor::keepRecord(int number, QByteArrayView record)
@@ -155,4 +155,13 @@ bool Surveyor::isTiled()
 DataSurvey surveyDataFile(QByteArrayView file, const clsNoteProps &noteTemplate, int room)
 {
     return Surveyor(file, noteTemplate, room).run();
+}
+
+std::vector<QByteArrayView> DataSurvey::records() const
+{
+    std::vector<QByteArrayView> all;
+    for (const Note &found : notes)
+        all.push_back(found.record);
+    all.insert(all.end(), beyondRoom.begin(), beyondRoom.end());
+    return all;
 }

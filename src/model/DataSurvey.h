@@ -16,7 +16,8 @@ struct DataSurvey
     {
         int number = 0; ///< Place in the directory, counted from 1.
         clsNoteProps note;
-        QByteArrayView record;
+        QByteArrayView record; ///< Empty for a note that is in the journal alone.
+        QByteArray ahead = {}; ///< From the journal: what the record is to become; empty: as it is.
     };
 
     int recordCount = 0; ///< Entries of the directory that the file has room for.
@@ -26,6 +27,9 @@ struct DataSurvey
     /// Something of the file could not be read: writing all of this back would lose it. A length that the program does
     /// not go by, or another true than its own, is no damage.
     bool isDamaged = false;
+
+    /// Of all that was read: first the notes, then what is beyond the room.
+    std::vector<QByteArrayView> records() const;
 };
 
 /// Reads a whole data file; at most `room` notes are made. The views point into the file.

@@ -23,6 +23,7 @@ ProgramPaths ProgramPaths::under(const QString &appFolder, const QString &workin
     paths.DataFile = data.filePath(u"quillets.dat"_s);
     paths.BackupFile = data.filePath(u"quillets.bak"_s);
     paths.BackupsFolder = data.filePath(u"backups"_s);
+    paths.JournalFile = data.filePath(u"quillets.jnl"_s);
     paths.EmptiedMark = data.filePath(u"quillets.emptied"_s);
     paths.AddressBookFile = data.filePath(u"address.txt"_s);
     paths.SendBookFile = data.filePath(u"host.txt"_s);

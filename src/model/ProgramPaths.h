@@ -18,6 +18,7 @@ struct ProgramPaths
     QString DataFile;
     QString BackupFile;
     QString BackupsFolder; ///< Dated copies of the data file.
+    QString JournalFile;   ///< The notes that are ahead of the data file.
     QString EmptiedMark;   ///< There while the data file is empty because the user has deleted the last note.
     QString AddressBookFile;
     QString SendBookFile;

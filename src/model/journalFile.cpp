@@ -12,12 +12,25 @@ namespace
 constexpr QByteArrayView Magic("Quillets journal");
 constexpr qint32 Version = 1;
 constexpr qsizetype LongLength = 4;
-constexpr qsizetype CountPosition = Magic.size() + LongLength;
+constexpr qsizetype FilePosition = Magic.size() + LongLength;
+constexpr qsizetype CountPosition = FilePosition + journalFile::DigestLength;
 constexpr qsizetype HeaderLength = CountPosition + LongLength;
 constexpr qsizetype FrameHeaderLength = journalFile::DigestLength + LongLength;
 constexpr qsizetype ShortestFile = HeaderLength + journalFile::DigestLength;
 
-const QByteArray NoBase(journalFile::DigestLength, '\0');
+const QByteArray NoDigest(journalFile::DigestLength, '\0');
+
+QByteArray fixed(const QByteArray &digest)
+{
+    return digest.isEmpty() ? NoDigest : digest;
+}
+
+/// The bytes must be there.
+QByteArray digestAt(qsizetype position, QByteArrayView bytes)
+{
+    const QByteArrayView digest = bytes.sliced(position, journalFile::DigestLength);
+    return digest == NoDigest ? QByteArray() : digest.toByteArray();
+}
 
 qsizetype lengthOf(const std::vector<JournalEntry> &entries)
 {
@@ -50,7 +63,7 @@ Outcome<JournalEntry, JournalFlaw> takeEntry(QByteArrayView &frames)
 {
     if (frames.size() < FrameHeaderLength)
         return Failure{JournalFlaw::Cut};
-    const QByteArrayView base = frames.first(journalFile::DigestLength);
+    QByteArray base = digestAt(0, frames);
     const qint32 length = longAt(journalFile::DigestLength, frames);
     frames = frames.sliced(FrameHeaderLength);
     if (length < 0 || length > frames.size())
@@ -59,38 +72,39 @@ Outcome<JournalEntry, JournalFlaw> takeEntry(QByteArrayView &frames)
     frames = frames.sliced(length);
     if (!isNote(record))
         return Failure{JournalFlaw::NoNote};
-    return JournalEntry{base == NoBase ? QByteArray() : base.toByteArray(), record.toByteArray()};
+    return JournalEntry{std::move(base), record.toByteArray()};
 }
 
 } // namespace
 
-QByteArray journalFile::digestOf(QByteArrayView record)
+QByteArray journalFile::digestOf(QByteArrayView bytes)
 {
-    return QCryptographicHash::hash(record, QCryptographicHash::Md5);
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Md5);
 }
 
-QByteArray journalFile::encode(const std::vector<JournalEntry> &entries)
+QByteArray journalFile::encode(const Journal &journal)
 {
-    if (entries.empty())
+    if (journal.entries.empty())
         return {};
     QByteArray bytes;
-    bytes.reserve(lengthOf(entries));
+    bytes.reserve(lengthOf(journal.entries));
     bytes += Magic;
     appendLong(Version, bytes);
-    appendLong(static_cast<qsizetype>(entries.size()), bytes);
-    for (const JournalEntry &entry : entries) {
-        bytes += entry.base.isEmpty() ? NoBase : entry.base;
+    bytes += fixed(journal.file);
+    appendLong(static_cast<qsizetype>(journal.entries.size()), bytes);
+    for (const JournalEntry &entry : journal.entries) {
+        bytes += fixed(entry.base);
         appendLong(entry.record.size(), bytes);
         bytes += entry.record;
     }
     return bytes + digestOf(bytes);
 }
 
-Outcome<std::vector<JournalEntry>, JournalFlaw> journalFile::decode(QByteArrayView bytes)
+Outcome<Journal, JournalFlaw> journalFile::decode(QByteArrayView bytes)
 {
-    std::vector<JournalEntry> entries;
+    Journal journal;
     if (bytes.isEmpty())
-        return entries;
+        return journal;
     if (bytes.size() < ShortestFile)
         return Failure{JournalFlaw::Cut};
     if (!bytes.startsWith(Magic) || longAt(Magic.size(), bytes) != Version)
@@ -98,6 +112,7 @@ Outcome<std::vector<JournalEntry>, JournalFlaw> journalFile::decode(QByteArrayVi
     const QByteArrayView content = bytes.chopped(DigestLength);
     if (bytes.last(DigestLength) != digestOf(content))
         return Failure{JournalFlaw::Changed};
+    journal.file = digestAt(FilePosition, bytes);
     QByteArrayView frames = content.sliced(HeaderLength);
     const qint32 count = longAt(CountPosition, bytes);
     if (count < 1)
@@ -106,9 +121,9 @@ Outcome<std::vector<JournalEntry>, JournalFlaw> journalFile::decode(QByteArrayVi
         auto entry = takeEntry(frames);
         if (!entry)
             return Failure{entry.error()};
-        entries.push_back(std::move(entry).value());
+        journal.entries.push_back(std::move(entry).value());
     }
     if (!frames.isEmpty())
         return Failure{JournalFlaw::Longer};
-    return entries;
+    return journal;
 }

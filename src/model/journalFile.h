@@ -17,6 +17,15 @@ struct JournalEntry
     bool operator==(const JournalEntry &) const = default;
 };
 
+/// All that the data file has not.
+struct Journal
+{
+    QByteArray file; ///< journalFile::digestOf the data file as it was then; empty when it could not be read.
+    std::vector<JournalEntry> entries;
+
+    bool operator==(const Journal &) const = default;
+};
+
 /// What can be wrong with the bytes of a journal.
 enum class JournalFlaw
 {
@@ -36,11 +45,11 @@ constexpr qsizetype DigestLength = 16;
 /// Bytes. Longer files are not read.
 constexpr qint64 MaximumLength = 0x7FFFFFFF;
 
-/// How a record of the data file is named in an entry.
-QByteArray digestOf(QByteArrayView record);
+/// How the data file and its records are named.
+QByteArray digestOf(QByteArrayView bytes);
 /// No entries: no bytes.
-QByteArray encode(const std::vector<JournalEntry> &entries);
+QByteArray encode(const Journal &journal);
 /// Nothing is taken from a flawed journal. No count or length makes the result larger than the bytes.
-Outcome<std::vector<JournalEntry>, JournalFlaw> decode(QByteArrayView bytes);
+Outcome<Journal, JournalFlaw> decode(QByteArrayView bytes);
 
 } // namespace journalFile

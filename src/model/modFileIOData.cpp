@@ -4,6 +4,7 @@
 
 #include "model/DataSurvey.h"
 #include "model/datedCopies.h"
+#include "model/journalReplay.h"
 #include "model/logs.h"
 #include "model/modFileIOFolder.h"
 #include "model/modStreams.h"
@@ -55,11 +56,12 @@ Outcome<Done, QString> takeUpUnread(DataFileState &state)
     if (!file && file.error().kind != ReadFailure::Kind::Missing)
         return Failure{state.readOnlyReason};
     const QByteArray bytes = file ? file.value() : QByteArray();
-    const DataSurvey survey = surveyDataFile(bytes, {}, 0);
+    DataSurvey survey = surveyDataFile(bytes, {}, 0);
     if (survey.isDamaged)
         state.asideOwedSince = QDateTime::currentDateTime();
     if (!bytes.isEmpty())
         keepDated(state, bytes);
+    journalReplay::replay(state.carried, journalReplay::DataFileIs::Another, {}, 0, survey);
     DataImage both = state.image;
     for (const QByteArrayView record : survey.beyondRoom)
         if (!both.keepForeign(record.toByteArray()))
@@ -136,6 +138,7 @@ Outcome<Done, QString> replaceDataFile(DataFileState &state)
     if (bytes.isEmpty()) // Without its mark the next start asks once too often.
         static_cast<void>(wholeFile::replace(state.paths.EmptiedMark, {}));
     state.disk = state.image;
+    state.carried.clear();
     state.unsaved = false;
     ++state.replacements;
     return written;

@@ -14,6 +14,7 @@ struct LoadReport
 {
     int restored = 0;
     int overLimit = 0;     ///< Sound records beyond the room, kept in the file untouched.
+    int broughtBack = 0;   ///< Notes that the journal had and the data file had not.
     int undecodable = 0;   ///< Records passed over; the damaged file was kept aside.
     QStringList keptAside; ///< Paths of the copies made.
     QString problem;       ///< Not empty: for the user to read.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/DataSurvey.h"
 #include "model/datedCopies.h"
+#include "model/journalReplay.h"
 #include "model/logs.h"
 #include "model/modFileIOData.h"
 #include "model/modFileIOFolder.h"
@@ -103,25 +104,49 @@ void writeBackup(const DataFileState &state, const QByteArray &file, const DataS
         tell(report, Texts::tr("The backup could not be written: %1").arg(written.error()));
 }
 
-void restoreNotes(DataSurvey &survey, DataImage &image, const modFileIO::OnRecord &onRecord,
+/// What is not a sound journal is moved aside: the next one is written over it.
+Journal readJournal(const DataFileState &state, const QDateTime &now, LoadReport &report)
+{
+    const QString &path = state.paths.JournalFile;
+    const auto bytes = wholeFile::read(path, journalFile::MaximumLength);
+    if (!bytes && bytes.error().kind == ReadFailure::Kind::Missing)
+        return {};
+    if (bytes)
+        if (auto journal = journalFile::decode(bytes.value()))
+            return std::move(journal).value();
+    const auto kept = wholeFile::moveAside(path, u"damaged"_s, now);
+    if (kept)
+        report.keptAside.append(kept.value());
+    else
+        tell(report, kept.error());
+    return {};
+}
+
+/// The image gets what is to be stored, the disk what is.
+void restoreNotes(DataSurvey &survey, DataFileState &state, const modFileIO::OnRecord &onRecord,
                   const modFileIO::OnProgress &onProgress, LoadReport &report)
 {
-    std::vector<QByteArray> unwanted;
+    const auto wanted = [](const DataSurvey::Note &found) {
+        return found.ahead.isEmpty() ? found.record.toByteArray() : found.ahead;
+    };
+    std::vector<const DataSurvey::Note *> unwanted;
     for (DataSurvey::Note &found : survey.notes) {
         if (onProgress)
             onProgress(found.number, survey.recordCount);
         const qint32 tag = onRecord(std::move(found.note));
         if (tag < 1) {
-            unwanted.push_back(found.record.toByteArray());
+            unwanted.push_back(&found);
             continue;
         }
-        image.keepLoaded(tag, found.record.toByteArray());
+        state.image.keepLoaded(tag, wanted(found));
+        if (!found.record.isEmpty())
+            state.disk.keepLoaded(tag, found.record.toByteArray());
         ++report.restored;
     }
-    for (const QByteArray &record : unwanted)
-        image.keepForeign(record);
+    for (const DataSurvey::Note *found : unwanted)
+        state.image.keepForeign(wanted(*found));
     for (const QByteArrayView record : survey.beyondRoom)
-        image.keepForeign(record.toByteArray());
+        state.image.keepForeign(record.toByteArray());
 }
 
 } // namespace
@@ -133,25 +158,32 @@ LoadReport modFileIO::LoadDataFile(DataFileState &state, const clsNoteProps &not
     const QScopedValueRollback loading(state.LoadingData, true);
     LoadReport report;
     state.image.clear();
+    state.disk.clear();
     removeLeftovers(state.paths);
+    const Journal journal = readJournal(state, now, report);
+    state.carried = journal.entries;
     const std::optional<QByteArray> file = readDataFile(state, report);
     if (!file)
         return report;
     state.stamp = modFileIO::stampOf(state.paths.DataFile, *file);
     DataSurvey survey = surveyDataFile(*file, noteTemplate, room);
-    report.overLimit = static_cast<int>(survey.beyondRoom.size());
     report.undecodable = survey.undecodable;
     qCInfo(logs::files) << state.paths.DataFile << "holds" << survey.recordCount << "records:" << survey.notes.size()
-                        << "to be shown," << report.overLimit << "beyond the room," << report.undecodable
+                        << "to be shown," << survey.beyondRoom.size() << "beyond the room," << report.undecodable
                         << "not read, damaged:" << survey.isDamaged;
     if (survey.isDamaged && !keepCopy(state.paths.DataFile, u"damaged"_s, now, report))
         state.asideOwedSince = now;
     keepCopyOfToday(state, *file, survey, now);
     writeBackup(state, *file, survey, now, report);
+    const auto isSame =
+        journal.file == state.stamp->digest ? journalReplay::DataFileIs::Same : journalReplay::DataFileIs::Another;
+    const auto replayed = journalReplay::replay(journal.entries, isSame, noteTemplate, room, survey);
+    report.broughtBack = replayed.broughtBack;
+    report.overLimit = static_cast<int>(survey.beyondRoom.size());
     if (survey.recordCount > 0 && pause)
         pause();
-    restoreNotes(survey, state.image, onRecord, onProgress, report);
-    state.disk = state.image;
+    restoreNotes(survey, state, onRecord, onProgress, report);
+    state.carried = replayed.hidden;
     state.unsaved = state.image.bytes() != *file;
     return report;
 }

@@ -109,20 +109,6 @@ Outcome<QString, QString> copyAside(const QString &sourcePath, const QString &su
     return path;
 }
 
-/// For what cannot be read, and so not be copied; it may even be a folder.
-Outcome<QString, QString> moveAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
-{
-    for (int attempt = 1;; ++attempt) {
-        const QString name = asideName(QFileInfo(sourcePath), suffix, now, attempt);
-        if (QDir().rename(sourcePath, name)) {
-            qCInfo(logs::files) << sourcePath << "moved aside as" << name;
-            return name;
-        }
-        if (!QFileInfo::exists(name))
-            return Failure{Texts::tr("%1 cannot be read, and cannot be moved aside.").arg(sourcePath)};
-    }
-}
-
 Outcome<QByteArray, ReadFailure> readAll(const QString &path, qint64 maxBytes)
 {
     if (const auto found = obstacle(path))
@@ -156,7 +142,7 @@ Outcome<Done, QString> wholeFile::replaceReadable(const QString &path, QByteArra
         return Failure{Texts::tr("The file would become too large.")};
     const auto former = wholeFile::read(path, maxBytes);
     if (!former && former.error().kind != ReadFailure::Kind::Missing)
-        if (auto moved = moveAside(path, u"unreadable"_s, QDateTime::currentDateTime()); !moved)
+        if (auto moved = wholeFile::moveAside(path, u"unreadable"_s, QDateTime::currentDateTime()); !moved)
             return Failure{moved.error()};
     return wholeFile::replace(path, bytes);
 }
@@ -169,6 +155,20 @@ Outcome<QString, QString> wholeFile::keepAside(const QString &sourcePath, const 
     else
         qCWarning(logs::files) << sourcePath << "not kept aside:" << kept.error();
     return kept;
+}
+
+Outcome<QString, QString> wholeFile::moveAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
+{
+    // It may be unreadable, or even a folder: nothing of it is copied.
+    for (int attempt = 1;; ++attempt) {
+        const QString name = asideName(QFileInfo(sourcePath), suffix, now, attempt);
+        if (QDir().rename(sourcePath, name)) {
+            qCInfo(logs::files) << sourcePath << "moved aside as" << name;
+            return name;
+        }
+        if (!QFileInfo::exists(name))
+            return Failure{Texts::tr("%1 cannot be used, and cannot be moved aside.").arg(sourcePath)};
+    }
 }
 
 Outcome<QByteArray, ReadFailure> wholeFile::read(const QString &path, qint64 maxBytes)

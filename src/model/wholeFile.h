@@ -38,6 +38,9 @@ Outcome<Done, QString> replaceReadable(const QString &path, QByteArrayView bytes
 /// "quillets-2026-11-22-221530-damaged.dat". Never overwrites; the value is the path of the copy.
 Outcome<QString, QString> keepAside(const QString &sourcePath, const QString &suffix, const QDateTime &now);
 
+/// Gives a file, whatever is in it, such a name; the value is its new path.
+Outcome<QString, QString> moveAside(const QString &sourcePath, const QString &suffix, const QDateTime &now);
+
 /// Missing is only what is known not to be there; a folder or a device is unreadable.
 Outcome<QByteArray, ReadFailure> read(const QString &path, qint64 maxBytes);
 

@@ -6,9 +6,9 @@
 /// What is taken is written back as it was.
 static void check(QByteArrayView bytes)
 {
-    const auto entries = journalFile::decode(bytes);
-    if (entries)
-        require(journalFile::encode(entries.value()) == bytes);
+    const auto journal = journalFile::decode(bytes);
+    if (journal)
+        require(journalFile::encode(journal.value()) == bytes);
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

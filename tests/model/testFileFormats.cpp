@@ -36,6 +36,7 @@ class testFileFormats final : public QObject
 
 private slots:
     void notes();
+    void journal();
     void options();
     void recentLists();
     void window();
@@ -52,6 +53,18 @@ void testFileFormats::notes()
     DataImage image;
     QVERIFY(image.keepLoaded(1, modStreams::EncodeNoteRecord(note)));
     QCOMPARE(image.bytes(), file);
+}
+
+void testFileFormats::journal()
+{
+    const QByteArray dataFile = documented("quillets.dat");
+    const DataSurvey survey = surveyDataFile(dataFile, {}, 100);
+    const QByteArray file = documented("quillets.jnl");
+    const Journal journal = journalFile::decode(file).value();
+    QVERIFY(journal.file == journalFile::digestOf(dataFile) && journal.entries.size() == 1);
+    QCOMPARE(journal.entries[0].base, journalFile::digestOf(survey.records().front()));
+    QCOMPARE(modStreams::DecodeNoteRecord(journal.entries[0].record, 0, {}).value().note.Data, u"3 l milk"_s);
+    QCOMPARE(journalFile::encode(journal), file);
 }
 
 void testFileFormats::options()

@@ -16,8 +16,9 @@ QByteArray record(const QString &text)
     return modStreams::EncodeNoteRecord(taggedNote(1, text));
 }
 
-const std::vector<JournalEntry> Entries{
-    {journalFile::digestOf("what is stored"), record(u"changed"_s)}, {{}, record(u"new"_s)}, {{}, record({})}};
+const Journal Sample{
+    journalFile::digestOf("the data file"),
+    {{journalFile::digestOf("what is stored"), record(u"changed"_s)}, {{}, record(u"new"_s)}, {{}, record({})}}};
 
 /// With the digest that belongs to it, so that what lies behind is read.
 QByteArray sealed(const QByteArray &content)
@@ -27,7 +28,7 @@ QByteArray sealed(const QByteArray &content)
 
 QByteArray content()
 {
-    return journalFile::encode(Entries).chopped(journalFile::DigestLength);
+    return journalFile::encode(Sample).chopped(journalFile::DigestLength);
 }
 
 QByteArray withLong(qsizetype position, qint32 value)
@@ -53,18 +54,18 @@ private slots:
 
 void testJournalFile::thereAndBack()
 {
-    const auto read = journalFile::decode(journalFile::encode(Entries));
-    QVERIFY(read && read.value() == Entries);
+    const auto read = journalFile::decode(journalFile::encode(Sample));
+    QVERIFY(read && read.value() == Sample);
     QCOMPARE(journalFile::encode({}), QByteArray());
-    QVERIFY(journalFile::decode({}).value().empty());
+    QVERIFY(journalFile::decode({}).value().entries.empty());
     QVERIFY(journalFile::digestOf("a") != journalFile::digestOf("b"));
 }
 
 void testJournalFile::flaws_data()
 {
     constexpr qsizetype Version = 16;
-    constexpr qsizetype Count = 20;
-    constexpr qsizetype FirstLength = 40;
+    constexpr qsizetype Count = 36;
+    constexpr qsizetype FirstLength = 56;
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<JournalFlaw>("flaw");
     QTest::newRow("another kind of file") << sealed(QByteArray(200, 'x')) << JournalFlaw::Foreign;
@@ -87,7 +88,7 @@ void testJournalFile::flaws()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(JournalFlaw, flaw);
-    QCOMPARE(Entries.front().record.size(), 116);
+    QCOMPARE(Sample.entries.front().record.size(), 116);
     const auto read = journalFile::decode(bytes);
     QVERIFY(!read);
     QCOMPARE(read.error(), flaw);
@@ -96,7 +97,7 @@ void testJournalFile::flaws()
 /// As it is, and with a digest that fits.
 void testJournalFile::everyTruncation()
 {
-    const QByteArray whole = journalFile::encode(Entries);
+    const QByteArray whole = journalFile::encode(Sample);
     for (qsizetype length = 1; length < whole.size(); ++length)
         QVERIFY2(!journalFile::decode(whole.first(length)), qPrintable(QString::number(length)));
     for (qsizetype length = 0; length < content().size(); ++length)
@@ -105,7 +106,7 @@ void testJournalFile::everyTruncation()
 
 void testJournalFile::everyByteChanged()
 {
-    QByteArray bytes = journalFile::encode(Entries);
+    QByteArray bytes = journalFile::encode(Sample);
     for (qsizetype at = 0; at < bytes.size(); ++at) {
         bytes[at] = static_cast<char>(bytes[at] ^ 1);
         QVERIFY2(!journalFile::decode(bytes), qPrintable(QString::number(at)));

@@ -70,8 +70,11 @@ void NoteHost::remove(qint32 tag)
     if (note == nullptr)
         return;
     commitEditsOf(tag);
-    modForms::removeNote(m_program, note->record);
+    const clsNoteProps record = note->record;
+    Program &program = m_program;
     letGo(tag);
+    // A box may open, in which this window goes.
+    modForms::removeNote(program, record);
 }
 
 void NoteHost::beginTextEditing(LiveNote &note)
