@@ -35,6 +35,13 @@ MENU_MARGIN = 30 * SCALE  # At the right, for what a menu has beside its note.
 SETTLED = 0.7  # Seconds; menus fade in.
 PANEL = "Menu - Quillets"
 TO_NOTESTACK, PROPERTIES, ACTIONS = 1, 4, 5  # Rows of a note's menu, lines not counted.
+SEND, EMAIL = 2, 3  # Rows of its actions.
+BOOK = "alias bob desk.lan\r\nalias lab bob, 192.168.1.31@1500 (upstairs), 192.168.1.32\r\n"
+OPTIONS = """E-mail Address = ann@home.example
+SMTP Server = mail.home.example
+Send Book = host.txt
+Address Book = address.txt
+"""
 
 
 class Photographer:
@@ -158,12 +165,44 @@ def take_passwords(camera, program):
     gone(program, refusal)
 
 
+def take_exchange(camera, program):
+    dentist = activated(program, "Call the dentist")
+    send = opened(program, lambda: (menu(camera, ACTIONS, SEND), camera.keys("Return")))
+    camera.display.do("type", "bob, 192.168.1.20 (upstairs)")
+    camera.inside("send", send, caret=True)
+    camera.keys("ctrl+a", "Delete")
+    book = opened(program, lambda: camera.keys("alt+Down", "Home", "Return"))
+    camera.keys("Down")
+    camera.inside("send-book", book)
+    camera.keys("Escape")
+    gone(program, book)
+    camera.keys("Escape")
+    gone(program, send)
+    dentist.activate()
+    mail = opened(program, lambda: (menu(camera, ACTIONS, EMAIL), camera.keys("Return")))
+    camera.display.do("type", "family")
+    camera.inside("email", mail, caret=True)
+    camera.keys("Escape")
+    gone(program, mail)
+
+
+def take_search(camera, program):
+    activated(program, "Call the dentist")
+    search = opened(program, lambda: camera.keys("ctrl+f"))
+    camera.display.do("type", "for")
+    camera.inside("find", search, caret=True)
+    camera.keys("Escape")
+    gone(program, search)
+
+
 def take_options(camera, program):
     activated(program, PANEL)
     options = opened(program, lambda: camera.keys("alt+o"))
     camera.inside("options-general", options, caret=True)
     camera.keys("ctrl+Tab")
     camera.inside("options-appearance", options)
+    camera.keys("ctrl+Tab", "ctrl+Tab")
+    camera.inside("options-networking", options)
     camera.keys("Escape")
     gone(program, options)
 
@@ -228,6 +267,10 @@ def main():
     display.environment["QT_SCALE_FACTOR"] = str(SCALE)
     camera = Photographer(display, folder)
     home = desktop.Home(display, program_file, os.path.join(ROOT, "tests", "data", "household.dat"))
+    with open(os.path.join(home.folder, "Data", "quillets.set"), "a") as options:
+        options.write(OPTIONS)
+    with open(os.path.join(home.folder, "host.txt"), "w") as book:
+        book.write(BOOK)
     try:
         display.run("xsetroot", "-solid", GROUND)
         program = home.start()
@@ -237,6 +280,8 @@ def main():
         camera.take("desktop", *DESKTOP)
         take_notes(camera, program)
         take_passwords(camera, program)
+        take_exchange(camera, program)
+        take_search(camera, program)
         take_options(camera, program)
         take_stack(camera, program)
         take_tray(camera, program)
