@@ -113,6 +113,8 @@ void ExchangeDialog::showProgress(bool on)
 {
     if (on == m_progress->isVisibleTo(this))
         return;
+    if (on)
+        m_progress->begin();
     const int room = m_progress->sizeHint().height() + layout()->spacing();
     m_progress->setVisible(on);
     resize(width(), height() + (on ? room : -room));

@@ -10,8 +10,8 @@
 #include <QPushButton>
 
 ProgressFrame::ProgressFrame(QWidget *parent)
-    : QGroupBox(tr("Note Transmission Progress "), parent), m_step(new QLabel(tr("Sending ..."), this)),
-      m_bar(new QProgressBar(this)), m_stop(new QPushButton(tr("St&op"), this))
+    : QGroupBox(tr("Note Transmission Progress "), parent), m_step(new QLabel(this)), m_bar(new QProgressBar(this)),
+      m_stop(new QPushButton(tr("St&op"), this))
 {
     setObjectName(QStringLiteral("fraProgress"));
     auto *status = new QLabel(tr("Status:"), this);
@@ -23,12 +23,19 @@ ProgressFrame::ProgressFrame(QWidget *parent)
     m_bar->setTextVisible(false);
     m_stop->setObjectName(QStringLiteral("cmdStop"));
     m_stop->setAutoDefault(false);
+    begin();
     auto *layout = new QGridLayout(this);
     layout->addWidget(status, 0, 0);
     layout->addWidget(m_step, 0, 1, 1, 2);
     layout->addWidget(m_bar, 1, 0, 1, 2);
     layout->addWidget(m_stop, 1, 2);
     layout->setColumnStretch(1, 1);
+}
+
+void ProgressFrame::begin()
+{
+    m_step->setText(tr("Sending ..."));
+    m_bar->setValue(0);
 }
 
 void ProgressFrame::follow(Exchange &exchange)

@@ -17,6 +17,8 @@ class ProgressFrame final : public QGroupBox
 public:
     explicit ProgressFrame(QWidget *parent);
 
+    /// As before anything is told.
+    void begin();
     /// Shows what the exchange tells from now on.
     void follow(Exchange &exchange);
     /// What was told last.

@@ -152,13 +152,14 @@ void frmEmail::prepare(const QList<MailRecipient> &recipients)
     if (server.user.isEmpty())
         return start(recipients, {});
     m_isPreparing = true;
+    showProgress(true);
     m_password->ask(
         server.user + u'@' + server.host,
         [this, recipients](const QString &password) {
             m_isPreparing = false;
             start(recipients, password);
         },
-        [this] { m_isPreparing = false; });
+        [this] { stop(); });
 }
 
 void frmEmail::start(const QList<MailRecipient> &recipients, const QString &password)
@@ -180,9 +181,11 @@ void frmEmail::start(const QList<MailRecipient> &recipients, const QString &pass
 
 void frmEmail::stop()
 {
+    if (!std::exchange(m_isPreparing, false))
+        return m_sender.stop();
     m_password->forget();
-    m_isPreparing = false;
-    m_sender.stop();
+    showProgress(false);
+    showResult(tr("E-mail canceled"));
 }
 
 void frmEmail::finish(const ExchangeResult &result)

@@ -179,6 +179,12 @@ void testEmailDialog::passwords()
     send(u"a@b.c"_s);
     QTRY_VERIFY(isAsked);
     QVERIFY(server.heard.isEmpty());
+    QTRY_COMPARE(result(), u"E-mail canceled"_s);
+    // Who stops while the keyring is asked hears no more of it.
+    send(u"a@b.c"_s);
+    press(*m_dialog, "cmdStop");
+    QTest::qWait(50);
+    QVERIFY(!control<QWidget>(*m_dialog, "fraProgress").isVisible() && server.heard.isEmpty());
     m_test->program.NetworkSettings.MailPort = 1;
     for (int k = 0; k < 2; ++k) {
         m_test->prompts.expect(Answer::Ok);
