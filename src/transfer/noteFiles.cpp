@@ -25,7 +25,7 @@ QString safeName(const QString &title)
         name.chop(1);
     name.replace(unsafe, QStringLiteral("-"));
     name = name.simplified();
-    while (name.startsWith(u'.'))
+    while (name.startsWith(u'.') || name.startsWith(u' '))
         name.remove(0, 1);
     while (name.endsWith(u'.') || name.endsWith(u' '))
         name.chop(1);

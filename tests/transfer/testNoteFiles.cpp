@@ -39,6 +39,7 @@ void testNoteFiles::names_data()
     QTest::newRow("a device") << u"con"_s << u"note con"_s;
     QTest::newRow("a device with a suffix") << u"LPT1.txt"_s << u"note LPT1.txt"_s;
     QTest::newRow("hidden") << u".profile"_s << u"profile"_s;
+    QTest::newRow("hidden behind a blank") << u".. .profile"_s << u"profile"_s;
     QTest::newRow("long") << u"x"_s.repeated(500) << u"x"_s.repeated(60);
     QTest::newRow("half a character") << u"x"_s.repeated(59) + u"\U0001F600"_s << u"x"_s.repeated(59);
 }
