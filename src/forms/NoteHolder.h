@@ -19,6 +19,9 @@ public:
     /// The record of the note with this tag; null when it is not here.
     virtual clsNoteProps *recordOf(qint32 tag) = 0;
 
+    /// The record of one of its notes as it would be if every edit ended now; nothing ends. Reads only: it works
+    /// without a display too.
+    virtual clsNoteProps recordNow(qint32 tag) = 0;
     /// Takes what is not in the records yet, above all what is being typed, into them. The editors stay as they are.
     /// Reads only: it works without a display too.
     virtual void updateRecords() = 0;

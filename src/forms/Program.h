@@ -6,6 +6,7 @@
 #include "drawing/Twips.h"
 #include "forms/DeletedNote.h"
 #include "forms/Forms.h"
+#include "model/JournalWriter.h"
 #include "model/clsKeySettings.h"
 #include "model/clsNetworkSettings.h"
 #include "model/clsNoteProps.h"
@@ -88,6 +89,8 @@ public:
     DataFileState file;
     Forms forms;
     QTimer autoSave;
+    std::unique_ptr<JournalWriter> journal; ///< Null: none is kept.
+    QTimer journalDue;
     /// A window that "show or hide all notes" has hidden, and where it was.
     struct HiddenWindow
     {

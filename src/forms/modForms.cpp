@@ -6,6 +6,7 @@
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/modFormsHiding.h"
+#include "forms/modFormsJournal.h"
 #include "platform/windowStacking.h"
 
 #include <QApplication>
@@ -117,6 +118,7 @@ void activateNext(Program &program, Form &from)
 void CloseAllWindows(Program &program)
 {
     program.autoSave.stop();
+    endJournal(program);
     const auto all = program.forms.loaded();
     for (Form *form : all)
         form->keepPlace();

@@ -6,6 +6,7 @@
 #include "forms/NoteHolder.h"
 #include "forms/Program.h"
 #include "forms/Progress.h"
+#include "forms/modFormsJournal.h"
 #include "platform/Prompts.h"
 
 #include <QCoreApplication>
@@ -68,12 +69,14 @@ void saved(Program &program)
     if (program.file.readOnlyReason.isEmpty() && program.owedFailure.isEmpty())
         program.saveFailureTold = false;
     keepOrder(program);
+    settleJournal(program);
 }
 
 /// The end of a batch, which is written even inside another one: what keeps that one open may stay for hours. Notes
 /// that are not on the disk count as changed again.
 void finish(Program &program, SaveBatch &batch)
 {
+    settleJournalAhead(program);
     auto outcome = batch.end();
     if (outcome)
         outcome = modFileIO::flush(program.file);
@@ -84,6 +87,7 @@ void finish(Program &program, SaveBatch &batch)
             if (clsNoteProps *note = program.forms.recordOf(tag))
                 note->SaveTag = 1;
         program.owedFailure = outcome.error();
+        settleJournal(program);
     }
     tellOwed(program);
 }
@@ -115,9 +119,10 @@ std::optional<std::vector<qint32>> beginSaveAll(Program &program)
 
 } // namespace
 
-void markChanged(Program &, clsNoteProps &note)
+void markChanged(Program &program, clsNoteProps &note)
 {
     note.SaveTag = 1;
+    armJournal(program);
 }
 
 std::vector<qint32> unsavedTags(const Program &program)
@@ -138,6 +143,8 @@ void saveNote(Program &program, clsNoteProps &note)
     if (note.SaveTag != 1)
         return;
     using enum WriteResult::Kind;
+    if (program.file.batchDepth == 0)
+        settleJournalAhead(program);
     const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, NoteFate::Keep);
     if (result.kind == Written || result.kind == Batched)
         note.SaveTag = 0;
@@ -150,7 +157,11 @@ void saveNote(Program &program, clsNoteProps &note)
 
 void removeNote(Program &program, const clsNoteProps &note)
 {
+    if (program.file.batchDepth == 0)
+        settleJournalAhead(program);
     const WriteResult result = modFileIO::WriteNoteRecord(program.file, note, NoteFate::Remove);
+    if (result.kind == WriteResult::Kind::Written)
+        settleJournal(program);
     if (result.kind == WriteResult::Kind::Failed)
         program.owedFailure = result.reason;
     tellOwed(program);
@@ -181,11 +192,13 @@ bool SaveAllWithProgress(Program &program)
 void rescueNotes(Program &program)
 {
     updateRecords(program);
+    settleJournalAhead(program);
     SaveBatch batch(program.file);
     for (const qint32 tag : unsavedTags(program))
         static_cast<void>(modFileIO::WriteNoteRecord(program.file, *program.forms.recordOf(tag), NoteFate::Keep));
     static_cast<void>(batch.end());
     static_cast<void>(modFileIO::flush(program.file));
+    settleJournal(program);
 }
 
 void moveAll(Program &program, const QString &text, const std::vector<qint32> &tags,

@@ -75,17 +75,22 @@ std::vector<qint32> DataImage::tagsNotIn(const DataImage &other) const
 {
     std::vector<qint32> tags;
     for (const Entry &entry : m_live) {
-        const auto there = std::find_if(other.m_live.begin(), other.m_live.end(),
-                                        [&entry](const Entry &theirs) { return theirs.tag == entry.tag; });
+        const auto there = other.find(entry.tag);
         if (there == other.m_live.end() || there->record != entry.record)
             tags.push_back(entry.tag);
     }
     return tags;
 }
 
+QByteArray DataImage::recordOf(qint32 tag) const
+{
+    const auto entry = find(tag);
+    return entry == m_live.end() ? QByteArray() : entry->record;
+}
+
 QString DataImage::keyOf(qint32 tag) const
 {
-    const auto entry = std::find_if(m_live.begin(), m_live.end(), [tag](const Entry &one) { return one.tag == tag; });
+    const auto entry = find(tag);
     if (entry == m_live.end())
         return {};
     if (entry->digest.isEmpty())
@@ -125,6 +130,11 @@ QByteArray DataImage::bytes() const
 }
 
 std::deque<DataImage::Entry>::iterator DataImage::find(qint32 tag)
+{
+    return std::find_if(m_live.begin(), m_live.end(), [tag](const Entry &entry) { return entry.tag == tag; });
+}
+
+std::deque<DataImage::Entry>::const_iterator DataImage::find(qint32 tag) const
 {
     return std::find_if(m_live.begin(), m_live.end(), [tag](const Entry &entry) { return entry.tag == tag; });
 }

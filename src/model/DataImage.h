@@ -33,6 +33,8 @@ public:
     /// Notes whose record is another one in that image, or not in it.
     std::vector<qint32> tagsNotIn(const DataImage &other) const;
 
+    /// The note's record as it is in the image; empty when there is none.
+    QByteArray recordOf(qint32 tag) const;
     /// Tells the note's record from others across starts; empty when there is none.
     QString keyOf(qint32 tag) const;
 
@@ -50,6 +52,7 @@ private:
     };
 
     std::deque<Entry>::iterator find(qint32 tag);
+    std::deque<Entry>::const_iterator find(qint32 tag) const;
     bool fits(qint64 more) const;
 
     std::deque<Entry> m_live;     ///< Oldest first.

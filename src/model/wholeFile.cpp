@@ -147,6 +147,19 @@ Outcome<Done, QString> wholeFile::replaceReadable(const QString &path, QByteArra
     return wholeFile::replace(path, bytes);
 }
 
+Outcome<Done, QString> wholeFile::remove(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return Done{};
+    if (!file.remove()) {
+        qCWarning(logs::files) << path << "not removed:" << file.errorString();
+        return Failure{file.errorString()};
+    }
+    qCInfo(logs::files) << path << "removed";
+    return fileSync::syncFolder(QFileInfo(path).path());
+}
+
 Outcome<QString, QString> wholeFile::keepAside(const QString &sourcePath, const QString &suffix, const QDateTime &now)
 {
     const auto kept = copyAside(sourcePath, suffix, now);

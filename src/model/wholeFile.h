@@ -34,6 +34,9 @@ Outcome<Done, QString> replace(const QString &path, QByteArrayView bytes);
 /// name with the moment and "unreadable". Refuses bytes that could not be read again.
 Outcome<Done, QString> replaceReadable(const QString &path, QByteArrayView bytes, qint64 maxBytes);
 
+/// Removes a file, so that it would not come back with a power cut. One that is not there is removed.
+Outcome<Done, QString> remove(const QString &path);
+
 /// Copies a file beside itself under a name with the moment and the suffix, such as
 /// "quillets-2026-11-22-221530-damaged.dat". Never overwrites; the value is the path of the copy.
 Outcome<QString, QString> keepAside(const QString &sourcePath, const QString &suffix, const QDateTime &now);

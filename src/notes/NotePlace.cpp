@@ -3,6 +3,7 @@
 #include "notes/NotePlace.h"
 
 #include "forms/Program.h"
+#include "forms/modFormsJournal.h"
 #include "notes/NoteLayout.h"
 #include "notes/commands/LiveNote.h"
 #include "platform/displayPlatform.h"
@@ -103,8 +104,10 @@ bool NotePlace::growBack()
 /// note that the user is at is the user's doing.
 void NotePlace::changed()
 {
-    if (isReady() && m_window.isVisible() && (m_window.isActiveWindow() || m_drag.isActive()))
+    if (isReady() && m_window.isVisible() && (m_window.isActiveWindow() || m_drag.isActive())) {
         m_settling.start();
+        modForms::armJournal(m_program);
+    }
 }
 
 void NotePlace::settle()

@@ -6,6 +6,7 @@
 #include "drawing/textShortening.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsJournal.h"
 #include "forms/modFormsSaving.h"
 #include "notes/ResizeHandles.h"
 #include "notes/commands/NoteMenus.h"
@@ -63,6 +64,7 @@ void frmNote::connectTitleBar()
     connect(&m_title->label(), &TitleLabel::dragged, this, [this](QPoint at) { m_place.drag().move(at); });
     connect(&m_title->label(), &TitleLabel::released, this, &frmNote::endMove);
     connect(&m_title->label(), &TitleLabel::doubleClicked, this, &frmNote::scrollStep);
+    connect(m_title, &NoteTitle::typed, this, [this] { modForms::armJournal(m_program); });
     connect(m_title, &NoteTitle::edited, this, [this](const QString &text) { titleEdited(text); });
     connect(m_menus, &NoteMenus::chosen, this, &frmNote::run);
     connect(m_minimize, &PictureButton::commanded, this, [this] { run(NoteCommand::Delete); });
@@ -194,6 +196,12 @@ QString frmNote::ShortenString(const QString &text, int maxWidth, const QString 
 std::vector<qint32> frmNote::tags() const
 {
     return Tag() == 0 || isUnloaded() ? std::vector<qint32>() : std::vector{Tag()};
+}
+
+clsNoteProps frmNote::recordNow(qint32 tag)
+{
+    m_place.storeSettling();
+    return NoteHost::recordNow(tag);
 }
 
 void frmNote::updateRecords()

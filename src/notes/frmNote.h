@@ -56,6 +56,7 @@ public:
 
     // NoteHolder
     std::vector<qint32> tags() const override;
+    clsNoteProps recordNow(qint32 tag) override;
     void updateRecords() override;
     void ResetAlarms() override;
     void recordChanged(qint32 tag) override;

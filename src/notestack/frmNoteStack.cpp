@@ -6,6 +6,7 @@
 #include "drawing/textShortening.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsJournal.h"
 #include "forms/modHelp.h"
 #include "notes/commands/LiveNote.h"
 #include "notes/commands/NoteAction.h"
@@ -112,6 +113,7 @@ void frmNoteStack::connectParts()
             [this](int index) { toolbarCommanded(static_cast<StackToolbar::Command>(index)); });
     connect(m_toolbar, &StackToolbar::clickedElsewhere, this, [this] { TextLostFocus(); });
     connect(m_overlay, &LockOverlay::clicked, this, [this] { action().unlock(); });
+    connect(m_title, &NoteTitle::typed, this, [this] { modForms::armJournal(m_program); });
     connect(m_title, &NoteTitle::edited, this, [this](const QString &text) { titleEdited(text); });
     connect(&m_title->label(), &TitleLabel::pressed, this, [this] { TextLostFocus(); });
     connect(&m_title->label(), &TitleLabel::doubleClicked, this, [this] { action().editTitle(); });

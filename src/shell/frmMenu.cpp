@@ -5,6 +5,7 @@
 #include "controls/SizeGrip.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsJournal.h"
 #include "platform/TrayIcon.h"
 #include "platform/windowStacking.h"
 #include "shell/PanelLogo.h"
@@ -213,6 +214,7 @@ void frmMenu::closeEvent(QCloseEvent *event)
     if (m_program.Exiting)
         return;
     m_program.Exiting = true;
+    modForms::discardJournal(m_program);
     modForms::CloseAllWindows(m_program);
     QCoreApplication::exit();
 }

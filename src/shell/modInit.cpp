@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/modInit.h"
 
+#include "controls/QuietLine.h"
 #include "drawing/colours.h"
 #include "forms/NoteHolder.h"
 #include "forms/modForms.h"
+#include "forms/modFormsJournal.h"
 #include "forms/modFormsSaving.h"
 #include "forms/modTimers.h"
 #include "model/keySettingsFile.h"
@@ -122,6 +124,26 @@ QRect below(const QWidget &panel)
     return panel.frameGeometry().adjusted(0, 0, 0, OfferBelow);
 }
 
+/// Nothing to decide, and so no box.
+void tellBroughtBack(Program &program, const QRect &place, int notes)
+{
+    const QString text =
+        QCoreApplication::translate("modInit", "Notes brought back that were not saved last time: %1.");
+    auto *line = new QuietLine(program, {text.arg(notes), QCoreApplication::translate("modInit", "OK"), {}, {}, [] {}});
+    line->showBy(place);
+}
+
+/// There is one quiet line at a time; what is damaged comes first.
+void tellRestored(Program &program, const frmMenu &panel, Restored restored)
+{
+    if (program.Exiting)
+        return;
+    if (restored.isDamaged)
+        restoring::offerRestore(program, below(panel));
+    else if (restored.broughtBack > 0)
+        tellBroughtBack(program, below(panel), restored.broughtBack);
+}
+
 int run(Program &program)
 {
     const QPointer<frmSplash> splash = new frmSplash(program);
@@ -145,7 +167,8 @@ int run(Program &program)
     EndSignals endSignals;
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));
-    const bool isDamaged = restoreNotes(program, splash);
+    modForms::keepJournal(program);
+    const Restored restored = restoreNotes(program, splash);
     const ExitRescue rescue([&program] { modForms::rescueNotes(program); });
     if (program.Exiting)
         return 0;
@@ -160,8 +183,7 @@ int run(Program &program)
     // When what was started is on the screen.
     QTimer::singleShot(0, panel, &frmMenu::answerDesktop);
     QMetaObject::invokeMethod(panel, &frmMenu::startReceiving, Qt::QueuedConnection);
-    if (isDamaged)
-        QTimer::singleShot(BeforeOffer, panel, [&program, panel] { restoring::offerRestore(program, below(*panel)); });
+    QTimer::singleShot(BeforeOffer, panel, [&program, panel, restored] { tellRestored(program, *panel, restored); });
     const int result = QApplication::exec();
     delete panel;
     return result;
@@ -202,7 +224,7 @@ void LoadProgramOptions(Program &program)
     program.BuildNoteDefaults();
 }
 
-bool restoreNotes(Program &program, frmSplash *splash)
+Restored restoreNotes(Program &program, frmSplash *splash)
 {
     const auto create = [&program](clsNoteProps &&note) {
         // The program was told to end meanwhile; what is not restored stays in the file as it is.
@@ -224,7 +246,7 @@ bool restoreNotes(Program &program, frmSplash *splash)
     if (report.overLimit > 0)
         modCreateNote::tellLimit(program);
     tellOfLoad(program, report);
-    return report.undecodable > 0 || !report.keptAside.isEmpty();
+    return {report.undecodable > 0 || !report.keptAside.isEmpty(), report.broughtBack};
 }
 
 int Main(int argc, char *argv[])

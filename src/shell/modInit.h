@@ -6,6 +6,13 @@
 
 class frmSplash;
 
+/// What the restoring of the notes came to.
+struct Restored
+{
+    bool isDamaged = false;
+    int broughtBack = 0; ///< Notes that a run which ended too early had not saved.
+};
+
 /// Start-up and shut-down.
 namespace modInit
 {
@@ -21,8 +28,7 @@ bool checkComponents(Program &program);
 void prepareDataFolder(Program &program);
 /// The built-in defaults, the options file over them, and the check of the files they name.
 void LoadProgramOptions(Program &program);
-/// Restores the notes of the data file; the splash window, if there is one, tells how far it is. True: damage was
-/// found.
-bool restoreNotes(Program &program, frmSplash *splash);
+/// Restores the notes of the data file; the splash window, if there is one, tells how far it is.
+Restored restoreNotes(Program &program, frmSplash *splash);
 
 } // namespace modInit

@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/Program.h"
 #include "forms/modForms.h"
+#include "forms/modFormsJournal.h"
 #include "forms/modFormsSaving.h"
 #include "platform/EndSignals.h"
 #include "platform/Prompts.h"
@@ -72,6 +73,7 @@ void ExitProgram(Program &program)
             return;
     }
     program.Exiting = true;
+    modForms::discardJournal(program);
     modForms::CloseAllWindows(program);
     if (panel != nullptr)
         panel->unload();

@@ -30,6 +30,13 @@ public:
     }
     std::vector<qint32> tags() const override { return {record.Tag}; }
     clsNoteProps *recordOf(qint32 tag) override { return tag == record.Tag ? &record : nullptr; }
+    clsNoteProps recordNow(qint32) override
+    {
+        clsNoteProps now = record;
+        if (!typed.isEmpty())
+            now.Data = typed;
+        return now;
+    }
     void updateRecords() override
     {
         if (!typed.isEmpty() && record.Data != typed) {

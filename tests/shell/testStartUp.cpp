@@ -154,7 +154,7 @@ void testStartUp::damagedFiles()
     const bool isDamaged = !file.isEmpty() && windows < 8;
     if (isDamaged)
         m_test->prompts.expect(Answer::Ok);
-    QCOMPARE(modInit::restoreNotes(m_test->program, nullptr), isDamaged);
+    QCOMPARE(modInit::restoreNotes(m_test->program, nullptr).isDamaged, isDamaged);
     QTEST(m_test->program.forms.notes().size(), "windows");
     if (isDamaged)
         QVERIFY(m_test->prompts.last.text.contains(m_home->paths.DataFolder));

@@ -140,6 +140,27 @@ class TestProgram(unittest.TestCase):
             self.assertEqual(program.end(signal.SIGKILL), -signal.SIGKILL)
             self.assertEqual(sorted(note.title for note in self.stored()), titles)
 
+    def test_what_a_killed_program_had_not_saved_comes_back(self):
+        journal = os.path.join(os.path.dirname(self.home.data_file), "quillets.jnl")
+        texts = {note.title: note.text for note in self.stored()}
+        for turn in range(3):
+            program = self.home.start()
+            program.window(PANEL)
+            note = program.window("Shopping")
+            note.activate()
+            note.click(*BODY)
+            self.display.do("type", "--delay", "20", f" turn {turn}")
+            texts["Shopping"] += f" turn {turn}"
+            time.sleep(1)
+            self.assertEqual(program.end(signal.SIGKILL), -signal.SIGKILL)
+            self.assertTrue(os.path.exists(journal))
+        program = self.home.start()
+        program.window(PANEL)
+        self.assertEqual(program.end(signal.SIGTERM), 0)
+        self.assertEqual({note.title: note.text for note in self.stored()}, texts)
+        self.assertEqual(len(self.stored()), 10)
+        self.assertFalse(os.path.exists(journal))
+
     def test_display_that_goes_takes_no_note_along(self):
         display = desktop.Display()
         try:

@@ -3,6 +3,7 @@
 #include "notes/commands/LiveNote.h"
 
 #include "controls/noteFont.h"
+#include "forms/modFormsJournal.h"
 #include "forms/modFormsSaving.h"
 #include "forms/modHelp.h"
 #include "notes/commands/noteEditing.h"
@@ -24,6 +25,7 @@ LiveNote::LiveNote(Program &program, QWidget *paper)
     connect(&body, &NoteBody::addressPressed, this,
             [this](const QUrl &address) { modHelp::openPage(m_program, address); });
     connect(&body, &NoteBody::fontWheelTurned, this, &LiveNote::wheelTurned);
+    connect(&body, &NoteBody::typed, this, [this] { modForms::armJournal(m_program); });
     connect(&body, &NoteBody::pasteRefused, this,
             [this, paper] { noteEditing::tellUnpastable(m_program, paper->window()); });
 }
@@ -46,15 +48,9 @@ void LiveNote::textCommitted(const QString &text)
     markChanged();
 }
 
-void LiveNote::takeTyped()
+QString LiveNote::textNow() const
 {
-    if (!body.isEditing() || locked)
-        return;
-    const QString typed = body.typedText();
-    if (typed == record.Data)
-        return;
-    record.Data = typed;
-    markChanged();
+    return body.isEditing() && !locked ? body.typedText() : record.Data;
 }
 
 void LiveNote::mixInk()

@@ -33,8 +33,8 @@ public:
     /// it is dressed.
     void take(clsNoteProps note, Lid lid);
     void markChanged();
-    /// Puts what is being typed into the record; the editor stays as it is.
-    void takeTyped();
+    /// The text of the record, or what is being typed instead.
+    QString textNow() const;
     /// The ink alone as the record has it, after a change of the desktop's colours.
     void mixInk();
     /// Ink, font and text as the record has them; `base` is the font of the window.

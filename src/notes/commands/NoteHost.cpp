@@ -19,16 +19,27 @@ clsNoteProps *NoteHost::recordOf(qint32 tag)
     return note != nullptr ? &note->record : nullptr;
 }
 
+clsNoteProps NoteHost::recordNow(qint32 tag)
+{
+    const LiveNote &note = *live(tag);
+    clsNoteProps now = note.record;
+    now.Data = note.textNow();
+    const QString title = tag == m_titleTag ? titleEditor().typedTitle() : QString();
+    if (!title.trimmed().isEmpty() && title != noteTitles::title(now))
+        now.TitleBarTitle = title;
+    return now;
+}
+
 void NoteHost::updateRecords()
 {
-    for (const qint32 tag : tags())
-        live(tag)->takeTyped();
-    LiveNote *titled = live(m_titleTag);
-    const QString typed = titleEditor().typedTitle();
-    if (titled == nullptr || typed.trimmed().isEmpty() || typed == noteTitles::title(titled->record))
-        return;
-    titled->record.TitleBarTitle = typed;
-    titled->markChanged();
+    for (const qint32 tag : tags()) {
+        const clsNoteProps now = recordNow(tag);
+        LiveNote &note = *live(tag);
+        if (now == note.record)
+            continue;
+        note.record = now;
+        note.markChanged();
+    }
 }
 
 void NoteHost::commitEditing()

@@ -42,6 +42,7 @@ public:
     virtual void runOwn(NoteCommand) {}
 
     clsNoteProps *recordOf(qint32 tag) override;
+    clsNoteProps recordNow(qint32 tag) override;
     void updateRecords() override;
     void commitEditing() override;
     void TextLostFocus() override;

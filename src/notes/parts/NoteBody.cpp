@@ -118,6 +118,7 @@ void NoteBody::makeTextBox()
     m_editLayer->stackUnder(m_display);
     m_textBox = new NoteTextBox(m_editLayer);
     nameControls();
+    connect(m_textBox, &NoteTextBox::textChanged, this, &NoteBody::typed);
     connect(m_textBox, &NoteTextBox::left, this, &NoteBody::commit);
     connect(m_textBox, &NoteTextBox::addressPressed, this, &NoteBody::addressPressed);
     connect(m_textBox, &NoteTextBox::fontWheelTurned, this, &NoteBody::fontWheelTurned);

@@ -64,6 +64,8 @@ public:
 signals:
     void textPressed(Qt::MouseButton button, QPoint globalPosition);
     void editingChanged(bool editing);
+    /// The text that is being edited changes.
+    void typed();
     void committed(const QString &text);
     /// An address was pressed with Ctrl.
     void addressPressed(const QUrl &address);

@@ -145,6 +145,7 @@ void NoteTitle::makeEditor()
     m_editor->setTextMargins(-2, 0, 0, 0);
     m_editor->setMaxLength(INT_MAX);
     m_editor->setGeometry(editorRect());
+    connect(m_editor, &QLineEdit::textChanged, this, &NoteTitle::typed);
     m_editor->installEventFilter(this);
     m_editor->setPalette(textPalette(m_editor->palette(), m_ink, m_paper));
 }
@@ -188,8 +189,10 @@ void NoteTitle::commitQuietly()
 
 void NoteTitle::giveUp()
 {
-    if (m_editing)
-        closeEditor();
+    if (!m_editing)
+        return;
+    closeEditor();
+    emit typed();
 }
 
 void NoteTitle::editorLeft(Qt::FocusReason reason)

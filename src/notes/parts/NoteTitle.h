@@ -66,6 +66,8 @@ public:
     void giveUp();
 
 signals:
+    /// What is being typed changes, or is given up.
+    void typed();
     /// The edit has ended with this text; the label is shown again.
     void edited(const QString &text);
 
