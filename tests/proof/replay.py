@@ -8,13 +8,15 @@ to the disk in its order, what was written to a file in any."""
 import hashlib
 import itertools
 import os
+import time
 from collections import namedtuple
 
 from os import O_APPEND, O_TMPFILE, O_TRUNC
 
 MOST_SUBSETS = 3  # Unsynced writes to one file of which all subsets are tried.
-# `files` maps a path to bytes, None for a folder; `last` is the last instant at which it can be left.
-State = namedtuple("State", "files last")
+# `files` maps a path to bytes, None for a folder; `last` is the last instant at which it can be left, `key` the same for
+# equal files alone.
+State = namedtuple("State", "key files last")
 
 
 class _File:
@@ -215,7 +217,7 @@ class States:
         self.explored += 1
         key = _key(files)
         former = self.seen.get(key)
-        self.seen[key] = State(files, max(last, former.last) if former else last)
+        self.seen[key] = State(key, files, max(last, former.last) if former else last)
 
 
 def explore(before, operations, end):
@@ -238,7 +240,7 @@ def held(folder):
 
 
 def put(files, folder):
-    """Makes a folder of that state."""
+    """Makes a folder of that state, as it would be found a minute later."""
     os.mkdir(folder, 0o700)
     for path in sorted(files):
         full = os.path.join(folder, path)
@@ -247,3 +249,4 @@ def put(files, folder):
             continue
         with open(full, "wb") as file:
             file.write(files[path])
+        os.utime(full, (time.time() - 60,) * 2)
