@@ -26,6 +26,7 @@ private slots:
     void titles();
     void emptyTitleIsRefused();
     void savingTakesWhatIsBeingTyped();
+    void lookingAtWhatIsTypedChangesNothing();
     void noteThatGoesBehindTheTitlesBox();
 
 private:
@@ -216,6 +217,30 @@ void testEditing::savingTakesWhatIsBeingTyped()
     QTest::keyClicks(&title, u"!"_s);
     note->commitEditing();
     QCOMPARE(note->GetThisNoteProps()->TitleBarTitle, u"Title!"_s);
+}
+
+/// As the journal does while somebody types; Escape must still give a title up.
+void testEditing::lookingAtWhatIsTypedChangesNothing()
+{
+    frmNote *note = m_fixture->create(u"a"_s);
+    note->SaveThisNote();
+    const clsNoteProps before = *note->GetThisNoteProps();
+    QPlainTextEdit &box = NoteFixture::edit(*note);
+    for (const auto &[keys, text] : {std::pair(u"\rb"_s, u"a\r\nb"_s), {u"c"_s, u"a\r\nbc"_s}, {u""_s, u"a\r\nbc"_s}}) {
+        QTest::keyClicks(&box, keys);
+        QCOMPARE(note->recordNow(before.Tag).Data, text);
+        QVERIFY(*note->GetThisNoteProps() == before && box.isVisible());
+    }
+    box.undo();
+    QVERIFY(note->recordNow(before.Tag).Data != u"a\r\nbc"_s);
+    box.setPlainText(u"a"_s);
+    note->commitEditing();
+    note->SetFocusToTitleBar();
+    auto &title = NoteFixture::control<QLineEdit>(*note, "txtTitle");
+    QTest::keyClicks(&title, u"typed"_s);
+    QCOMPARE(note->recordNow(before.Tag).TitleBarTitle, u"typed"_s);
+    QTest::keyClick(&title, Qt::Key_Escape);
+    QCOMPARE(note->recordNow(before.Tag).TitleBarTitle, before.TitleBarTitle);
 }
 
 void testEditing::noteThatGoesBehindTheTitlesBox()

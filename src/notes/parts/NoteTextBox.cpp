@@ -18,7 +18,22 @@
 namespace
 {
 constexpr qreal TabDistance = 80;
+
+/// In one pass: a replacement by something longer would move the rest of the text for every thousand line ends.
+QString withLineEnds(QString raw)
+{
+    raw.replace(QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator));
+    QString text;
+    text.reserve(raw.size() + raw.count(QChar(QChar::ParagraphSeparator)));
+    qsizetype from = 0;
+    for (qsizetype end = 0; (end = raw.indexOf(QChar(QChar::ParagraphSeparator), from)) >= 0; from = end + 1) {
+        text += QStringView(raw).sliced(from, end - from);
+        text += QLatin1StringView("\r\n");
+    }
+    return text += QStringView(raw).sliced(from);
 }
+
+} // namespace
 
 NoteTextBox::NoteTextBox(QWidget *parent) : QPlainTextEdit(parent)
 {
@@ -45,6 +60,8 @@ void NoteTextBox::setInk(const QColor &ink, const QColor &paper)
 void NoteTextBox::setNoteText(const QString &text)
 {
     m_original = text;
+    m_typed.clear();
+    m_revision = -1;
     setPlainText(text);
     document()->setModified(false);
     moveCursor(QTextCursor::End);
@@ -54,10 +71,11 @@ QString NoteTextBox::noteText() const
 {
     if (!document()->isModified())
         return m_original;
-    QString text = document()->toRawText();
-    text.replace(QChar(QChar::ParagraphSeparator), QLatin1String("\r\n"));
-    text.replace(QChar(QChar::LineSeparator), QLatin1String("\r\n"));
-    return text;
+    if (m_revision != document()->revision()) {
+        m_typed = withLineEnds(document()->toRawText());
+        m_revision = document()->revision();
+    }
+    return m_typed;
 }
 
 // The scroll bar counts lines, one for each paragraph that was not laid out yet.

@@ -56,5 +56,7 @@ private:
     void replaceAt(int at, QChar sign);
 
     QString m_original;
+    mutable QString m_typed; ///< The text as it was at this revision of the document.
+    mutable int m_revision = -1;
     FontWheel m_fontWheel;
 };
