@@ -3,6 +3,8 @@
 #include "platform/SystemNearby.h"
 
 #ifdef QUILLETS_HAS_DBUS
+#include "platform/BusProbe.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -58,7 +60,10 @@ struct SystemNearby::Bus
     }
 };
 
-SystemNearby::SystemNearby(QObject *parent) : Nearby(parent) {}
+SystemNearby::SystemNearby(QObject *parent) : Nearby(parent), m_probe(new BusProbe(this))
+{
+    connect(m_probe, &BusProbe::answered, this, &SystemNearby::busAnswered);
+}
 
 SystemNearby::~SystemNearby()
 {
@@ -72,8 +77,25 @@ void SystemNearby::look()
 {
     if (std::exchange(m_isLooking, true))
         return;
-    if (m_bus == nullptr)
+    m_waitsToLook = true;
+    m_probe->ask();
+}
+
+/// A bus that answered just now does not keep anybody waiting.
+void SystemNearby::busAnswered()
+{
+    const bool looks = std::exchange(m_waitsToLook, false);
+    const Announced announced = std::exchange(m_waitsToAnnounce, {});
+    if (m_bus == nullptr && (looks || announced.port != 0))
         m_bus = std::make_unique<Bus>();
+    if (looks)
+        beginLooking();
+    if (announced.port != 0)
+        beginAnnouncing(announced);
+}
+
+void SystemNearby::beginLooking()
+{
     // Before the browser is there: it tells what it knows at once.
     m_bus->connection.connect(Service, QString(), Service + u".ServiceBrowser"_s, u"ItemNew"_s, this,
                               SLOT(itemNew(int, int, QString, QString, QString, uint)));
@@ -90,7 +112,7 @@ void SystemNearby::look()
 
 void SystemNearby::stopLooking()
 {
-    if (!std::exchange(m_isLooking, false))
+    if (!std::exchange(m_isLooking, false) || std::exchange(m_waitsToLook, false))
         return;
     m_bus->connection.disconnect(Service, QString(), Service + u".ServiceBrowser"_s, u"ItemNew"_s, this,
                                  SLOT(itemNew(int, int, QString, QString, QString, uint)));
@@ -117,28 +139,36 @@ void SystemNearby::resolved(const QString &name, const QString &host, uint port)
 
 void SystemNearby::announce(const QString &name, quint16 port)
 {
-    const int announcement = ++m_announcement;
+    ++m_announcement;
     if (m_bus != nullptr)
         m_bus->release(m_bus->group, u"EntryGroup"_s);
-    if (port == 0)
-        return;
-    if (m_bus == nullptr)
-        m_bus = std::make_unique<Bus>();
+    m_waitsToAnnounce = {name, port};
+    if (port != 0)
+        m_probe->ask();
+}
+
+void SystemNearby::beginAnnouncing(const Announced &announced)
+{
     qDBusRegisterMetaType<QList<QByteArray>>();
-    const auto add = [this, announcement, name, port](const QVariantList &reply) {
+    const auto add = [this, announcement = m_announcement, announced](const QVariantList &reply) {
         QString group = reply.value(0).value<QDBusObjectPath>().path();
         if (announcement != m_announcement)
             return m_bus->release(group, u"EntryGroup"_s);
         m_bus->group = group;
-        m_bus->connection.send(call(group, u"EntryGroup"_s, u"AddService"_s,
-                                    {AnyInterface, AnyProtocol, uint(0), name, ServiceType, QString(), QString(),
-                                     QVariant::fromValue(port), QVariant::fromValue(QList<QByteArray>())}));
+        m_bus->connection.send(
+            call(group, u"EntryGroup"_s, u"AddService"_s,
+                 {AnyInterface, AnyProtocol, uint(0), announced.name, ServiceType, QString(), QString(),
+                  QVariant::fromValue(announced.port), QVariant::fromValue(QList<QByteArray>())}));
         m_bus->connection.send(call(group, u"EntryGroup"_s, u"Commit"_s, {}));
     };
     m_bus->ask(call(u"/"_s, u"Server"_s, u"EntryGroupNew"_s, {}), this, add);
 }
 
 #else
+
+class BusProbe
+{
+};
 
 struct SystemNearby::Bus
 {
@@ -147,6 +177,9 @@ struct SystemNearby::Bus
 SystemNearby::SystemNearby(QObject *parent) : Nearby(parent) {}
 SystemNearby::~SystemNearby() = default;
 void SystemNearby::look() {}
+void SystemNearby::busAnswered() {}
+void SystemNearby::beginLooking() {}
+void SystemNearby::beginAnnouncing(const Announced &) {}
 void SystemNearby::stopLooking() {}
 void SystemNearby::itemNew(int, int, const QString &, const QString &, const QString &, uint) {}
 void SystemNearby::resolved(const QString &, const QString &, uint) {}

@@ -6,7 +6,9 @@
 
 #include <memory>
 
-/// The system's service for names on the local network (Avahi), asked over the system bus.
+class BusProbe;
+
+/// The system's service for names on the local network (Avahi), asked over the system bus. Nothing waits for it.
 class SystemNearby final : public Nearby
 {
     Q_OBJECT
@@ -25,10 +27,21 @@ private slots:
 
 private:
     struct Bus;
+    struct Announced
+    {
+        QString name;
+        quint16 port = 0;
+    };
 
+    void busAnswered();
+    void beginLooking();
+    void beginAnnouncing(const Announced &announced);
     void resolved(const QString &name, const QString &host, uint port);
 
-    std::unique_ptr<Bus> m_bus; ///< Made when it is first needed.
+    BusProbe *m_probe = nullptr;
+    std::unique_ptr<Bus> m_bus; ///< Made when it is first needed, and answers.
     bool m_isLooking = false;
-    int m_announcement = 0; ///< Only the last one counts.
+    bool m_waitsToLook = false;  ///< Until the bus answers.
+    Announced m_waitsToAnnounce; ///< Likewise.
+    int m_announcement = 0;      ///< Only the last one counts.
 };

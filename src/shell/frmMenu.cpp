@@ -115,6 +115,11 @@ void frmMenu::makeShortcuts()
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { run(PanelCommand::Help); });
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this,
             [this] { modForms::activateNext(m_program, *this); });
+    // Where the Menu key opens it, which Qt tells apart from these keys.
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, this), &QShortcut::activated, this, [this] {
+        const QWidget *place = focusWidget() != nullptr ? focusWidget() : this;
+        openPanelMenu(place->mapToGlobal(place->rect().center()));
+    });
 }
 
 void frmMenu::makeGrip()

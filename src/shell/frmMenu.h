@@ -61,6 +61,7 @@ private:
     void layOutLogo(int width);
     void run(PanelCommand command);
     void runInPlace(PanelCommand command);
+    void openPanelMenu(QPoint where);
     void runFromKeys(PanelCommand command);
     void runFromTray(PanelCommand command);
     void refuse(QWidget &modal);

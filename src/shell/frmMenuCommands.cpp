@@ -134,10 +134,15 @@ void frmMenu::refuse(QWidget &modal)
 
 void frmMenu::contextMenuEvent(QContextMenuEvent *event)
 {
+    openPanelMenu(event->globalPos());
+}
+
+void frmMenu::openPanelMenu(QPoint where)
+{
     auto *menu = new PanelMenu(this);
     // The menu goes with its choice: what is chosen is carried out when it has.
     connect(menu, &PanelMenu::commanded, this, &frmMenu::runInPlace, Qt::QueuedConnection);
-    menu->popup(event->globalPos());
+    menu->popup(where);
 }
 
 namespace

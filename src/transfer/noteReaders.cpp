@@ -32,21 +32,25 @@ QString withoutTitle(const QString &text, const QString &title)
     return rest;
 }
 
-/// The text inside the element that was begun; each entry of a list is a line.
+/// The text inside the element that was begun; each entry of a list is a line, whether its line end stands inside or
+/// behind it.
 QString contentOf(QXmlStreamReader &xml)
 {
     QString text;
+    bool endsEntry = false;
     for (int depth = 1; depth > 0 && !xml.atEnd();) {
         xml.readNext();
-        if (xml.isCharacters())
+        if (xml.isCharacters()) {
+            if (endsEntry && !text.endsWith(u'\n') && !xml.text().startsWith(u'\n'))
+                text += u'\n';
             text += xml.text();
-        else if (xml.isStartElement())
+            endsEntry = false;
+        } else if (xml.isStartElement()) {
             ++depth;
-        else if (xml.isEndElement())
+        } else if (xml.isEndElement()) {
             --depth;
-        const bool endsEntry = xml.isEndElement() && xml.name() == QLatin1String("list-item");
-        if (endsEntry && !text.endsWith(u'\n'))
-            text += u'\n';
+            endsEntry = endsEntry || xml.name() == QLatin1String("list-item");
+        }
     }
     return plainTexts::withNoteLines(text);
 }
@@ -58,9 +62,22 @@ struct Property
     QString value;
 };
 
+/// Where the value begins; a colon in quotes belongs to a parameter.
+qsizetype valueColon(const QString &line)
+{
+    bool isQuoted = false;
+    for (qsizetype at = 0; at < line.size(); ++at) {
+        if (line.at(at) == u'"')
+            isQuoted = !isQuoted;
+        else if (line.at(at) == u':' && !isQuoted)
+            return at;
+    }
+    return -1;
+}
+
 std::optional<Property> propertyOf(const QString &line)
 {
-    const qsizetype colon = line.indexOf(u':');
+    const qsizetype colon = valueColon(line);
     if (colon <= 0)
         return std::nullopt;
     QString value;
@@ -87,27 +104,55 @@ QDateTime calendarDate(const QString &value)
     return date;
 }
 
-void take(CarriedNote &note, const Property &property)
+/// A journal entry as it is read.
+struct Journal
+{
+    CarriedNote note;
+    QString description;
+    std::optional<bool> isRich; ///< Not told by all programs.
+};
+
+void take(Journal &journal, const Property &property)
 {
     if (property.name == QLatin1String("SUMMARY"))
-        note.title = property.value.simplified().left(LongestTitle);
+        journal.note.title = property.value.simplified().left(LongestTitle);
     else if (property.name == QLatin1String("DESCRIPTION"))
-        note.text = looksLikeHtml(property.value) ? plainTexts::fromHtml(property.value)
-                                                  : plainTexts::withNoteLines(property.value);
+        journal.description = property.value;
     else if (property.name == QLatin1String("CREATED"))
-        note.date = calendarDate(property.value);
+        journal.note.date = calendarDate(property.value);
     else if (property.name == QLatin1String("X-KDE-KNOTES-BGCOLOR"))
-        note.backColour = plainTexts::colour(property.value);
+        journal.note.backColour = plainTexts::colour(property.value);
     else if (property.name == QLatin1String("X-KDE-KNOTES-FGCOLOR"))
-        note.textColour = plainTexts::colour(property.value);
+        journal.note.textColour = plainTexts::colour(property.value);
+    else if (property.name == QLatin1String("X-KDE-KNOTES-RICHTEXT"))
+        journal.isRich = property.value.trimmed() == QLatin1String("true");
 }
 
-/// "key value" lines.
+CarriedNote noteOf(Journal journal)
+{
+    CarriedNote note = std::move(journal.note);
+    note.text = journal.isRich.value_or(looksLikeHtml(journal.description))
+                    ? plainTexts::fromHtml(journal.description)
+                    : plainTexts::withNoteLines(journal.description);
+    if (note.title.isEmpty())
+        note.title = firstLine(note.text);
+    return note;
+}
+
+/// Lines are broken between any two bytes, even inside of a letter.
+QByteArray unfolded(QByteArray bytes)
+{
+    bytes.replace("\r\n", "\n");
+    return bytes.replace("\n ", "").replace("\n\t", "");
+}
+
+/// "key value" lines; of two with the same key the first counts.
 QHash<QString, QString> valuesOf(const QByteArray &bytes)
 {
     QHash<QString, QString> values;
     for (const QString &line : plainTexts::decoded(bytes).split(QLatin1String("\r\n")))
-        values.insert(line.section(u' ', 0, 0), line.section(u' ', 1).trimmed());
+        if (const QString key = line.section(u' ', 0, 0); !values.contains(key))
+            values.insert(key, line.section(u' ', 1).trimmed());
     return values;
 }
 
@@ -162,7 +207,7 @@ std::optional<CarriedNote> noteReaders::ofGnote(const QByteArray &bytes)
             continue;
         isNote = isNote || xml.name() == QLatin1String("note");
         if (xml.name() == QLatin1String("title"))
-            note.title = xml.readElementText(QXmlStreamReader::IncludeChildElements).simplified().left(LongestTitle);
+            note.title = contentOf(xml).simplified().left(LongestTitle);
         else if (xml.name() == QLatin1String("note-content"))
             note.text = contentOf(xml);
         else if (xml.name() == QLatin1String("create-date"))
@@ -176,34 +221,47 @@ std::optional<CarriedNote> noteReaders::ofGnote(const QByteArray &bytes)
     return note;
 }
 
-CarriedNote noteReaders::ofXpad(const QByteArray &content, const QByteArray &info)
+QString noteReaders::xpadContent(const QByteArray &info)
 {
-    const QHash<QString, QString> values = valuesOf(info);
-    CarriedNote note{.title = QString(), .text = plainTexts::decoded(content)};
+    // Early versions wrote the whole path, of a folder that has moved since.
+    return valuesOf(info).value(QStringLiteral("content")).section(u'/', -1);
+}
+
+CarriedNote noteReaders::ofXpad(const QByteArray &content, const QByteArray &info, const QByteArray &defaultStyle)
+{
+    const QHash<QString, QString> own = valuesOf(info);
+    const bool isOwn = own.value(QStringLiteral("follow_color")) == QLatin1String("0");
+    const QHash<QString, QString> colours = isOwn ? own : valuesOf(defaultStyle);
+    static const QRegularExpression formatting(QStringLiteral("\\x{E000}/?[a-z-]{1,20}\\x{E000}"));
+    CarriedNote note{.title = QString(), .text = plainTexts::decoded(content).remove(formatting)};
     note.title = firstLine(note.text);
-    note.backColour = colourIn(values, QStringLiteral("back"));
-    note.textColour = colourIn(values, QStringLiteral("text"));
+    note.backColour = colourIn(colours, QStringLiteral("back"));
+    note.textColour = colourIn(colours, QStringLiteral("text"));
     return note;
 }
 
 std::vector<CarriedNote> noteReaders::ofCalendar(const QByteArray &bytes)
 {
-    static const QRegularExpression folded(QStringLiteral("\\r\\n[ \\t]"));
-    std::vector<CarriedNote> notes;
-    bool isInside = false;
-    for (const QString &line : plainTexts::decoded(bytes).remove(folded).split(QLatin1String("\r\n"))) {
+    std::vector<Journal> journals;
+    int depth = 0; ///< In what a journal entry holds; 1 in itself.
+    for (const QString &line : plainTexts::decoded(unfolded(bytes)).split(QLatin1String("\r\n"))) {
         const auto property = propertyOf(line);
         if (!property)
             continue;
         const bool isJournal = property->value.trimmed().compare(QLatin1String("VJOURNAL"), Qt::CaseInsensitive) == 0;
-        if (property->name == QLatin1String("BEGIN") && isJournal && std::ssize(notes) < MostEntries) {
-            notes.emplace_back();
-            isInside = true;
-        } else if (property->name == QLatin1String("END") && isJournal) {
-            isInside = false;
-        } else if (isInside) {
-            take(notes.back(), *property);
+        if (property->name == QLatin1String("BEGIN")) {
+            const bool begins = depth == 0 && isJournal && std::ssize(journals) < MostEntries;
+            if (begins)
+                journals.emplace_back();
+            depth += begins || depth > 0 ? 1 : 0;
+        } else if (property->name == QLatin1String("END")) {
+            depth -= depth > 0 ? 1 : 0;
+        } else if (depth == 1) {
+            take(journals.back(), *property);
         }
     }
+    std::vector<CarriedNote> notes;
+    for (Journal &journal : journals)
+        notes.push_back(noteOf(std::move(journal)));
     return notes;
 }

@@ -16,8 +16,10 @@ CarriedNote ofText(const QString &name, const QByteArray &bytes);
 CarriedNote ofMarkdown(const QString &name, const QByteArray &bytes);
 /// A note of Gnote, an XML file; nothing for a template.
 std::optional<CarriedNote> ofGnote(const QByteArray &bytes);
-/// A pad of xpad: its text, and the file that tells its looks.
-CarriedNote ofXpad(const QByteArray &content, const QByteArray &info);
+/// The file of a pad's text, as the pad's own file names it.
+QString xpadContent(const QByteArray &info);
+/// A pad of xpad: its text, the file that tells its looks, and the one that tells those of the pads without own ones.
+CarriedNote ofXpad(const QByteArray &content, const QByteArray &info, const QByteArray &defaultStyle);
 /// The journal entries of a calendar, as KNotes keeps its notes.
 std::vector<CarriedNote> ofCalendar(const QByteArray &bytes);
 

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 
 namespace
 {
@@ -32,14 +33,26 @@ void append(std::vector<CarriedNote> &notes, CarriedNote note, const QDateTime &
     notes.push_back(std::move(note));
 }
 
+/// What tells the looks of the pads, by the file of their texts.
+QHash<QString, QByteArray> xpadLooks(const QString &folder)
+{
+    QHash<QString, QByteArray> looks;
+    for (const QFileInfo &file : filesOf(folder, QStringLiteral("info-*")))
+        if (const auto info = bytesOf(file.filePath()))
+            looks.insert(noteReaders::xpadContent(*info), *info);
+    return looks;
+}
+
 std::vector<CarriedNote> xpadNotes(const QString &folder)
 {
+    const auto looks = xpadLooks(folder);
+    const QByteArray defaultStyle = bytesOf(folder + QStringLiteral("/default-style")).value_or(QByteArray());
     std::vector<CarriedNote> notes;
     for (const QFileInfo &file : filesOf(folder, QStringLiteral("content-*"))) {
         const auto content = bytesOf(file.filePath());
-        const QString info = folder + QStringLiteral("/info-") + file.fileName().section(u'-', 1);
         if (content && !content->trimmed().isEmpty())
-            append(notes, noteReaders::ofXpad(*content, bytesOf(info).value_or(QByteArray())), file.lastModified());
+            append(notes, noteReaders::ofXpad(*content, looks.value(file.fileName()), defaultStyle),
+                   file.lastModified());
     }
     return notes;
 }
@@ -62,6 +75,13 @@ std::vector<CarriedNote> calendarNotes(const QString &folder)
             for (CarriedNote &note : noteReaders::ofCalendar(*bytes))
                 append(notes, std::move(note), file.lastModified());
     return notes;
+}
+
+/// Before its notes moved into the desktop's store; one of the folders may be a link to the other.
+std::vector<CarriedNote> knotesNotes(const QString &home)
+{
+    std::vector<CarriedNote> notes = calendarNotes(home + QStringLiteral("/.kde4/share/apps/knotes"));
+    return notes.empty() ? calendarNotes(home + QStringLiteral("/.kde/share/apps/knotes")) : notes;
 }
 
 using Reader = std::vector<CarriedNote> (*)(const QByteArray &bytes, const QString &name);
@@ -99,12 +119,12 @@ const Suffix *suffixOf(const QString &path)
 
 } // namespace
 
-std::vector<noteSources::Source> noteSources::found(const QString &dataFolder, const QString &configFolder)
+std::vector<noteSources::Source> noteSources::found(const Folders &folders)
 {
     std::vector<Source> sources{
-        {QStringLiteral("xpad"), xpadNotes(configFolder + QStringLiteral("/xpad"))},
-        {QStringLiteral("Gnote"), gnoteNotes(dataFolder + QStringLiteral("/gnote"))},
-        {QStringLiteral("KNotes"), calendarNotes(dataFolder + QStringLiteral("/knotes"))},
+        {QStringLiteral("xpad"), xpadNotes(folders.config + QStringLiteral("/xpad"))},
+        {QStringLiteral("Gnote"), gnoteNotes(folders.data + QStringLiteral("/gnote"))},
+        {QStringLiteral("KNotes"), knotesNotes(folders.home)},
     };
     std::erase_if(sources, [](const Source &source) { return source.notes.empty(); });
     return sources;

@@ -19,8 +19,16 @@ struct Source
     std::vector<CarriedNote> notes;
 };
 
-/// The notes of other programs below the folders of a user; only those that have some. It only reads.
-std::vector<Source> found(const QString &dataFolder, const QString &configFolder);
+/// The folders of a user.
+struct Folders
+{
+    QString home;
+    QString data;
+    QString config;
+};
+
+/// The notes of other programs below them; only those that have some. It only reads.
+std::vector<Source> found(const Folders &folders);
 
 struct Read
 {

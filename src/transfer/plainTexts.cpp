@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QStringConverter>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -39,12 +41,50 @@ QString withEntities(const QString &text)
 {
     QString result;
     for (qsizetype at = 0; at < text.size(); ++at) {
-        const qsizetype end = text.at(at) == u'&' ? text.indexOf(u';', at) : -1;
-        const QString sign = end > at && end - at <= LongestEntity ? entity(text.mid(at + 1, end - at - 1)) : QString();
+        const QStringView next = QStringView(text).mid(at, LongestEntity + 1);
+        const qsizetype length = next.startsWith(u'&') ? next.indexOf(u';') : -1;
+        const QString sign = length > 0 ? entity(next.mid(1, length - 1).toString()) : QString();
         result += sign.isEmpty() ? QString(text.at(at)) : sign;
-        at = sign.isEmpty() ? at : end;
+        at += sign.isEmpty() ? 0 : length;
     }
     return result;
+}
+
+/// What a page does not show, from its first mark to the end of its last.
+struct Unseen
+{
+    QLatin1String begin;
+    QLatin1String end;
+    bool isEndless = false; ///< There is no end any more.
+};
+
+/// Every character is looked at a few times at most, whatever the page is.
+QString withoutUnseen(const QString &html)
+{
+    Unseen kinds[] = {{QLatin1String("<!--"), QLatin1String("-->")},
+                      {QLatin1String("<head"), QLatin1String("</head")},
+                      {QLatin1String("<style"), QLatin1String("</style")},
+                      {QLatin1String("<script"), QLatin1String("</script")}};
+    QString seen;
+    qsizetype kept = 0;
+    for (qsizetype at = html.indexOf(u'<'); at >= 0; at = html.indexOf(u'<', at)) {
+        const QStringView rest = QStringView(html).mid(at++);
+        const auto kind = std::find_if(std::begin(kinds), std::end(kinds), [rest](const Unseen &unseen) {
+            const QStringView behind = rest.mid(qMin(unseen.begin.size(), rest.size()), 1);
+            const bool isLonger = unseen.begin.at(1) != '!' && !behind.isEmpty() && behind.front().isLetterOrNumber();
+            return !isLonger && rest.startsWith(unseen.begin, Qt::CaseInsensitive);
+        });
+        if (kind == std::end(kinds) || kind->isEndless)
+            continue;
+        qsizetype end = rest.indexOf(kind->end, kind->begin.size(), Qt::CaseInsensitive);
+        end = end < 0 ? end : rest.indexOf(u'>', end);
+        kind->isEndless = end < 0;
+        if (kind->isEndless)
+            continue;
+        seen += QStringView(html).mid(kept, at - 1 - kept);
+        kept = at = at + end;
+    }
+    return seen + html.mid(kept);
 }
 
 } // namespace
@@ -55,6 +95,7 @@ QString plainTexts::withNoteLines(QString text)
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     text.replace(u'\r', u'\n');
     text.replace(QChar(QChar::ParagraphSeparator), QChar(u'\n'));
+    text.replace(QChar(QChar::LineSeparator), QChar(u'\n'));
     text.replace(u'\n', QLatin1String("\r\n"));
     return text;
 }
@@ -69,14 +110,11 @@ QString plainTexts::decoded(const QByteArray &bytes)
 
 QString plainTexts::fromHtml(const QString &html)
 {
-    static const QRegularExpression unseen(QStringLiteral("<(head|style|script)\\b.*?</\\1\\s*>|<!--.*?-->"),
-                                           QRegularExpression::CaseInsensitiveOption |
-                                               QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression breaks(QStringLiteral("<br\\s*/?>|</(p|div|li|tr|h[1-6])\\s*>"),
+    static const QRegularExpression breaks(QStringLiteral("(<br\\s*/?>\\s*)?</(p|div|li|tr|h[1-6])\\s*>|<br\\s*/?>"),
                                            QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression marks(QStringLiteral("<[^>]*>"));
     static const QRegularExpression blanks(QStringLiteral("\\s+"));
-    QString text = QString(html).remove(unseen);
+    QString text = withoutUnseen(html);
     text.replace(blanks, QStringLiteral(" "));
     text.replace(breaks, QStringLiteral("\n"));
     text.remove(marks);

@@ -7,8 +7,11 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVirtualObject>
+#include <QElapsedTimer>
+#include <QLocalServer>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -58,6 +61,7 @@ class testNearby final : public QObject
 
 private slots:
     void initTestCase();
+    void aSilentBus();
     void nobodyToAsk();
     void looking();
     void announcing();
@@ -82,6 +86,31 @@ void testNearby::cleanupTestCase()
 {
     m_bus.kill();
     m_bus.waitForFinished();
+}
+
+/// It takes connections and says nothing: nobody waits. The first test: a connection once made is kept.
+void testNearby::aSilentBus()
+{
+    const QByteArray address = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    const QTemporaryDir folder;
+    QLocalServer bus;
+    QVERIFY(bus.listen(folder.filePath(u"bus"_s)));
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS",
+            "tcp:host=x;unix:path=" + QFile::encodeName(bus.fullServerName()).replace('/', "%2f") + ",guid=1");
+    {
+        QElapsedTimer timer;
+        timer.start();
+        SystemNearby nearby;
+        nearby.look();
+        nearby.announce(u"me"_s, 1420);
+        QTRY_VERIFY(bus.hasPendingConnections());
+        nearby.stopLooking();
+        nearby.look();
+        QTest::qWait(100);
+        nearby.announce(u"me"_s, 0);
+        QVERIFY2(timer.elapsed() < 2000, "Somebody waited");
+    }
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
 }
 
 void testNearby::nobodyToAsk()
@@ -110,6 +139,9 @@ void testNearby::looking()
     QTRY_COMPARE(service.asked, (QStringList{u"ServiceBrowserNew"_s, u"ResolveService"_s, u"Free"_s}));
     service.flags = 16; // It is this program itself.
     nearby.look();
+    nearby.stopLooking();
+    nearby.look();
+    QTRY_COMPARE(service.asked.count(u"ServiceBrowserNew"_s), 2);
     nearby.stopLooking();
     nearby.look();
     QTRY_COMPARE(service.asked.count(u"ServiceBrowserNew"_s), 3);

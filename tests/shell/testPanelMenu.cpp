@@ -47,6 +47,11 @@ void testPanelMenu::leadsToTheCopies_data()
     row("a click on the panel", [](Fixture &t) { rightClick(t.panel, QContextMenuEvent::Mouse); });
     row("a click on a row", [](Fixture &t) { rightClick(*t.row(), QContextMenuEvent::Mouse); });
     row("the Menu key", [](Fixture &t) { rightClick(*t.row(), QContextMenuEvent::Keyboard); });
+    row("its other keys", [](Fixture &t) {
+        t.panel.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&t.panel));
+        QTest::keyClick(t.panel.focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
+    });
 }
 
 void testPanelMenu::leadsToTheCopies()

@@ -67,6 +67,12 @@ void testNoteReaders::pages_data()
                           << u"One two\r\na < b &amp; é€"_s;
     QTest::newRow("breaks") << u"a<br>b<BR/>c<ul><li>d</li><li>e</li></ul>"_s << u"a\r\nb\r\ncd\r\ne"_s;
     QTest::newRow("script") << u"a<script>alert('<b>')</script>b<!-- c -->"_s << u"ab"_s;
+    QTest::newRow("a name that goes on") << u"<HEAD>a</Head ><header>b</header><style"_s << u"b<style"_s;
+    for (const QString &mark : {u"<"_s, u"<!--"_s, u"<head "_s, u"<style>"_s, u"&"_s, u"<br "_s, u"</p "_s}) {
+        const QString endless = mark.repeated(300'000);
+        QTest::newRow(qPrintable(u"endless "_s + mark))
+            << endless << (mark == u"<style>" ? QString() : endless.trimmed());
+    }
     QTest::newRow("no entity") << u"a & b; &#xD800; &#0; &nothing; &#99999999;"_s
                                << u"a & b; &#xD800; &#0; &nothing; &#99999999;"_s;
     QTest::newRow("cut off") << u"a <b"_s << u"a <b"_s;
@@ -122,21 +128,35 @@ void testNoteReaders::markdown()
 namespace
 {
 
-const QByteArray GnoteFile = R"(<?xml version="1.0" encoding="utf-8"?>
-<note version="0.3" xmlns:link="http://beatniksoftware.com/tomboy/link" xmlns="http://beatniksoftware.com/tomboy">
-<title>Trip &amp; tour</title>
-<text xml:space="preserve"><note-content version="0.1">Trip &amp; tour
+/// As Gnote writes it, with a list in the middle.
+const QByteArray GnoteFile = R"(<?xml version="1.0"?>
+<note version="0.3" xmlns:link="http://beatniksoftware.com/tomboy/link" xmlns:size="http://beatniksoftware.com/tomboy/size" xmlns="http://beatniksoftware.com/tomboy"><title>Trip &amp; tour</title><text xml:space="preserve"><note-content version="0.1" xmlns:link="http://beatniksoftware.com/tomboy/link" xmlns:size="http://beatniksoftware.com/tomboy/size">Trip &amp; tour
 
-Pack <bold>warm</bold> things:
+Pack <bold>warm</bold>&#x2028;things:
 <list><list-item dir="ltr">socks
-</list-item><list-item dir="ltr">hat</list-item></list></note-content></text>
-<create-date>2025-05-06T07:08:09.1234560+02:00</create-date>%1</note>)";
+<list><list-item dir="ltr">of <size:large>wool</size:large>
+</list-item></list></list-item><list-item dir="ltr">hat</list-item></list>
+See <link:internal>Map</link:internal></note-content>
+</text><last-change-date>2025-05-06T05:09:10.208019Z</last-change-date><last-metadata-change-date>2025-05-06T05:09:10.208019Z</last-metadata-change-date><create-date>2025-05-06T05:08:09.208019Z</create-date><cursor-position>0</cursor-position><selection-bound-position>0</selection-bound-position><width>0</width><height>0</height>%1</note>
+)";
 
+/// As written by xpad 5.8.
+const QByteArray XpadInfo = "width 200\nheight 200\nx 10\ny 20\nfollow_font 1\nfollow_color 0\nsticky 0\nhidden 0\n"
+                            "back rgb(255,238,153)\ntext rgb(0,0,1)\nfontname Sans 9\ncontent content-6MKUE3\n";
+
+/// As written by KNotes of KDE 3 and of KDE 4, the first with an alarm; lines are broken anywhere.
 const QByteArray Calendar =
-    "BEGIN:VCALENDAR\r\nBEGIN:VJOURNAL\r\nSUMMARY:To do\\, soon\r\nCREATED:20250506T070809Z\r\n"
-    "X-KDE-KNotes-BgColor:#ff8001\r\nDESCRIPTION;X=1:first\\nsec\r\n ond \\\\ \\; end\r\nEND:VJOURNAL\r\n"
-    "SUMMARY:outside\r\nBEGIN:VTODO\r\nEND:VTODO\r\nBEGIN:VJOURNAL\r\nDESCRIPTION:<html><p>a</p><p>b"
-    "</p></html>\r\nEND:VJOURNAL\r\nEND:VCALENDAR\r\n";
+    "BEGIN:VCALENDAR\nPRODID:-//K Desktop Environment//NONSGML libkcal 4.3//EN\nVERSION:2.0\nBEGIN:VJOURNAL\n"
+    "DTSTAMP:20060316T224750Z\nORGANIZER:MAILTO:\nX-KDE-KNotes-BgColor:#ffff00\nX-KDE-KNotes-FgColor:#000001\n"
+    "X-KDE-KNotes-RichText:true\nCREATED:20060316T224744Z\nUID:libkcal-992190875.155\nSEQUENCE:0\n"
+    "LAST-MODIFIED:20060316T224750Z\nDESCRIPTION:<html><head><meta name=\"qrichtext\" content=\"1\"\n />"
+    "</head><body style=\"font-size:8pt\\;font-family:DejaVu Sans\">\\n<p>test\n  memo\xc3\n "
+    "\xa9</p>\\n</body></html>\\n\n"
+    "SUMMARY:To do\\, 16/03/2006\nCLASS:PUBLIC\nPRIORITY:5\nBEGIN:VALARM\nACTION:DISPLAY\nDESCRIPTION:the alarm's\n"
+    "END:VALARM\nEND:VJOURNAL\nSUMMARY:outside\nBEGIN:VTODO\nEND:VTODO\nBEGIN:VJOURNAL\nDTSTAMP:20131030T194044Z\n"
+    "X-KDE-KNotes-RichText:false\nDESCRIPTION;ALTREP=\"a:b\":<html>\\nis \\\\ \\; plain\nEND:VJOURNAL\n"
+    "BEGIN:VJOURNAL\nDESCRIPTION:<!DOCTYPE HTML><html><p>a</p><p></p><p><br /></p><p>b<br /></p></html>\n"
+    "END:VJOURNAL\nEND:VCALENDAR\n\n";
 
 void put(const QString &path, const QByteArray &bytes)
 {
@@ -161,6 +181,8 @@ void testNoteReaders::gnote_data()
     for (char c = 'b'; c < 'k'; ++c)
         bomb +=
             QByteArray("<!ENTITY ") + c + " \"" + QByteArray(QByteArray("&") + char(c - 1) + ";").repeated(10) + "\">";
+    const QByteArray deep = "<note><title>" + QByteArray("<a>").repeated(1'000'000);
+    QTest::newRow("a deep title") << deep << false;
     QTest::newRow("a bomb") << bomb + "]><note><title>&j;</title></note>" << false;
 }
 
@@ -173,54 +195,68 @@ void testNoteReaders::gnote()
     if (!note)
         return;
     QCOMPARE(note->title, u"Trip & tour"_s);
-    QCOMPARE(note->text.trimmed(), u"Pack warm things:\r\nsocks\r\nhat"_s);
+    QCOMPARE(note->text, u"Pack warm\r\nthings:\r\nsocks\r\nof wool\r\nhat\r\nSee Map"_s);
     QCOMPARE(note->date.toUTC().toString(Qt::ISODate), u"2025-05-06T05:08:09Z"_s);
 }
 
 void testNoteReaders::calendars()
 {
     const auto notes = noteReaders::ofCalendar(Calendar);
-    QCOMPARE(notes.size(), size_t(2));
-    QCOMPARE(notes[0], (CarriedNote{u"To do, soon"_s, u"first\r\nsecond \\ ; end"_s,
-                                    QDateTime(QDate(2025, 5, 6), QTime(7, 8, 9), Qt::UTC), 0x0180FF}));
-    QCOMPARE(notes[1].text, u"a\r\nb"_s);
+    QCOMPARE(notes.size(), size_t(3));
+    QCOMPARE(notes[0], (CarriedNote{u"To do, 16/03/2006"_s, u"test memoé"_s,
+                                    QDateTime(QDate(2006, 3, 16), QTime(22, 47, 44), Qt::UTC), 0x00FFFF, 0x010000}));
+    QCOMPARE(notes[1].text, u"<html>\r\nis \\ ; plain"_s);
+    QCOMPARE(notes[1].title, u"<html>"_s);
+    QCOMPARE(notes[2].text, u"a\r\n\r\n\r\nb"_s);
+    QVERIFY(noteReaders::ofCalendar(QByteArray(Calendar).replace("\n", "\r\n")) == notes);
 }
 
 void testNoteReaders::pads()
 {
-    const CarriedNote note = noteReaders::ofXpad("\n  first line \nsecond", "back_red 65535\nback_green 32896\n"
-                                                                            "back_blue 257\ntext #010203\n");
+    QCOMPARE(noteReaders::xpadContent(XpadInfo), u"content-6MKUE3"_s);
+    QCOMPARE(noteReaders::xpadContent("content /home/ann/.xpad/content-1\n"), u"content-1"_s);
+    const QByteArray content = "\n  first \xee\x80\x80"
+                               "bold\xee\x80\x80line\xee\x80\x80/bold\xee\x80\x80 \nsecond";
+    const CarriedNote note = noteReaders::ofXpad(content, XpadInfo, {});
     QCOMPARE(note.title, u"first line"_s);
-    QCOMPARE(note.backColour, 0x0180FF);
-    QCOMPARE(note.textColour, 0x030201);
-    QCOMPARE(noteReaders::ofXpad("a", "back_red 1\nback_green no").backColour, std::nullopt);
+    QCOMPARE(note.text, u"\r\n  first line \r\nsecond"_s);
+    QCOMPARE(note.backColour, 0x99EEFF);
+    QCOMPARE(note.textColour, 0x010000);
+    // Like most pads, and as xpad 4 wrote it.
+    const QByteArray style = "height 200\nback_red 65535\nback_green 32896\nback_blue 257\ntext NULL\n";
+    const CarriedNote common = noteReaders::ofXpad("a", QByteArray(XpadInfo).replace("color 0", "color 1"), style);
+    QCOMPARE(common.backColour, 0x0180FF);
+    QCOMPARE(common.textColour, std::nullopt);
+    QCOMPARE(noteReaders::ofXpad("a", "follow_color 0\nback_red 1\nback_green no", {}).backColour, std::nullopt);
 }
 
 /// None of them ends the program, and what is no note gives none.
 void testNoteReaders::everyTruncation()
 {
-    for (qsizetype keep = 0; keep < GnoteFile.size() - 7; ++keep)
+    for (qsizetype keep = 0; keep < GnoteFile.size() - 8; ++keep)
         QVERIFY(!noteReaders::ofGnote(GnoteFile.first(keep)));
     for (qsizetype keep = 0; keep < Calendar.size(); ++keep)
-        QVERIFY(noteReaders::ofCalendar(Calendar.first(keep)).size() <= 2);
+        QVERIFY(noteReaders::ofCalendar(Calendar.first(keep)).size() <= 3);
 }
 
 void testNoteReaders::foundInTheirPlaces()
 {
     const QTemporaryDir home;
-    QVERIFY(noteSources::found(home.path(), home.path()).empty());
+    const noteSources::Folders folders{home.path(), home.path(), home.path()};
+    QVERIFY(noteSources::found(folders).empty());
     put(home.filePath(u"gnote/a.note"_s), QByteArray(GnoteFile).replace("%1", ""));
     put(home.filePath(u"gnote/b.note"_s), "no note");
     put(home.filePath(u"xpad/content-1"_s), "a pad");
     put(home.filePath(u"xpad/content-2"_s), " \n");
-    put(home.filePath(u"xpad/info-1"_s), "back #ff8001");
-    put(home.filePath(u"knotes/notes.ics"_s), Calendar);
-    const auto sources = noteSources::found(home.path(), home.path());
+    put(home.filePath(u"xpad/info-2"_s), QByteArray(XpadInfo).replace("6MKUE3", "1"));
+    put(home.filePath(u".kde/share/apps/knotes/notes.ics"_s), Calendar);
+    QVERIFY(QFile::link(home.filePath(u".kde"_s), home.filePath(u".kde4"_s)));
+    const auto sources = noteSources::found(folders);
     QStringList all;
     for (const auto &source : sources)
         all.append(u"%1 %2"_s.arg(source.program).arg(source.notes.size()));
-    QCOMPARE(all, (QStringList{u"xpad 1"_s, u"Gnote 1"_s, u"KNotes 2"_s}));
-    QCOMPARE(sources[0].notes[0].backColour, 0x0180FF);
+    QCOMPARE(all, (QStringList{u"xpad 1"_s, u"Gnote 1"_s, u"KNotes 3"_s}));
+    QCOMPARE(sources[0].notes[0].backColour, 0x99EEFF);
     QVERIFY(sources[0].notes[0].date.isValid());
 }
 

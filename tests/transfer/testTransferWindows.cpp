@@ -158,7 +158,7 @@ void testTransferWindows::otherProgramsAreLookedFor()
     const QString pads = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/xpad"_s;
     QVERIFY(QDir().mkpath(pads));
     TestHome::setContents(pads + u"/content-1"_s, "a pad");
-    TestHome::setContents(pads + u"/info-1"_s, "back #ff8001");
+    TestHome::setContents(pads + u"/info-1"_s, "follow_color 0\nback rgb(255,128,1)\ncontent content-1\n");
     answerDialog(u"frmImport"_s, [](QDialog &dialog) {
         QCOMPARE(control<QListWidget>(dialog, "lstSources").item(0)->text(), u"xpad: 1 note"_s);
         press(dialog, "OKButton");

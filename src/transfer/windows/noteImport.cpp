@@ -11,6 +11,7 @@
 #include "transfer/windows/frmImport.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
 #include <QStandardPaths>
 
@@ -66,9 +67,10 @@ void noteImport::run(Program &program, QWidget *owner, const QStringList &files)
     const QPointer<QWidget> window = owner;
     const QPointer<frmImport> dialog = new frmImport(program, owner);
     const auto folder = QStandardPaths::writableLocation;
-    dialog->Initialize(files.isEmpty() ? noteSources::found(folder(QStandardPaths::GenericDataLocation),
-                                                            folder(QStandardPaths::GenericConfigLocation))
-                                       : std::vector<noteSources::Source>(),
+    dialog->Initialize(files.isEmpty()
+                           ? noteSources::found({QDir::homePath(), folder(QStandardPaths::GenericDataLocation),
+                                                 folder(QStandardPaths::GenericConfigLocation)})
+                           : std::vector<noteSources::Source>(),
                        files);
     if (dialog == nullptr || !showModally(dialog))
         return;
