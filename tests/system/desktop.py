@@ -65,6 +65,7 @@ class Home:
 
     def __init__(self, display, binary, data_file, port=0):
         self.display, self._binary = display, binary
+        self.environment = {}  # Beside that of the display.
         self.folder = tempfile.mkdtemp(prefix="quillets-home-")
         self.data_file = os.path.join(self.folder, "Data", "quillets.dat")
         os.mkdir(os.path.dirname(self.data_file))
@@ -76,7 +77,7 @@ class Home:
     def start(self, session="session"):
         runtime = os.path.join(self.folder, session)
         os.makedirs(runtime, 0o700, exist_ok=True)
-        environment = dict(self.display.environment, XDG_RUNTIME_DIR=runtime)
+        environment = dict(self.display.environment, XDG_RUNTIME_DIR=runtime, **self.environment)
         program = Program(self.display, subprocess.Popen([self._binary], cwd=self.folder, env=environment))
         self._programs.append(program)
         return program
