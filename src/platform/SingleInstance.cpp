@@ -42,16 +42,14 @@ void SingleInstance::removeNobodysLock()
         QFile::remove(file.filePath());
 }
 
-/// A folder on a stick or a share may bring along the lock of another computer, of whose processes nothing is known
-/// here. It is removed unless the file system knows that it is still held.
+/// A folder on a stick or a share may bring along the lock of another computer, and a power cut leave half of one; of
+/// the processes they name nothing is known here. A lock is removed unless the file system knows that it is still held.
 bool SingleInstance::takeOver()
 {
     qint64 process = 0;
     QString host;
     QString application;
-    const bool isFromElsewhere =
-        m_lock.getLockInfo(&process, &host, &application) && host != QSysInfo::machineHostName();
-    return isFromElsewhere && m_lock.removeStaleLockFile() && m_lock.tryLock();
+    return m_lock.getLockInfo(&process, &host, &application) && m_lock.removeStaleLockFile() && m_lock.tryLock();
 }
 
 bool SingleInstance::acquire()

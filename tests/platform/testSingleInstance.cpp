@@ -66,6 +66,8 @@ void testSingleInstance::leftLocks_data()
     QTest::newRow("of a program that is gone") << lockOfTheDead() << 0 << true;
     QTest::newRow("empty") << QByteArray() << 10 << true;
     QTest::newRow("cut") << QByteArray("99") << 10 << true;
+    QTest::newRow("cut in the computer's number")
+        << lockOfTheDead() + QSysInfo::machineUniqueId().first(8) << 0 << true;
     QTest::newRow("of another computer") << QByteArray("1\nquillets\nelsewhere\n") << 0 << true;
     QTest::newRow("of this one, with another's number") << lockOfTheDead().replace("999999999", "1") << 0 << true;
     QTest::newRow("endless") << QByteArray(1'000'000, '1') << 10 << true;
