@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -26,10 +28,10 @@ QString withoutTitle(const QString &text, const QString &title)
     const QString first = text.section(QLatin1String("\r\n"), 0, 0);
     if (first.trimmed() != title)
         return text;
-    QString rest = text.mid(first.size());
-    while (rest.startsWith(QLatin1String("\r\n")))
-        rest = rest.mid(2);
-    return rest;
+    qsizetype begin = first.size();
+    while (begin < text.size() && (text.at(begin) == u'\r' || text.at(begin) == u'\n'))
+        ++begin;
+    return text.mid(begin);
 }
 
 /// The text inside the element that was begun; each entry of a list is a line, whether its line end stands inside or
@@ -174,26 +176,48 @@ std::optional<qint32> colourIn(const QHash<QString, QString> &values, const QStr
     return result;
 }
 
+void chopAll(QString &text, QStringView signs)
+{
+    while (!text.isEmpty() && signs.contains(text.back()))
+        text.chop(1);
+}
+
+/// A first line "# Title #" and the empty line behind it.
+void takeHeading(CarriedNote &note)
+{
+    const auto sign = std::find_if(note.text.cbegin(), note.text.cend(), [](QChar c) { return !c.isSpace(); });
+    const qsizetype begin = sign - note.text.cbegin();
+    const qsizetype end = note.text.indexOf(QLatin1String("\r\n"), begin);
+    QString line = note.text.mid(begin, end < 0 ? -1 : end - begin);
+    if (!line.startsWith(QLatin1String("# ")))
+        return;
+    chopAll(line, u" #");
+    const QString title = line.mid(2).trimmed();
+    if (title.isEmpty())
+        return;
+    note.title = title.left(LongestTitle);
+    note.text = end < 0 ? QString() : note.text.mid(end + 2);
+    if (note.text.startsWith(QLatin1String("\r\n")))
+        note.text.remove(0, 2);
+}
+
 } // namespace
 
 CarriedNote noteReaders::ofText(const QString &name, const QByteArray &bytes)
 {
-    return {.title = name.left(LongestTitle), .text = plainTexts::decoded(bytes)};
+    return {.title = name.simplified().left(LongestTitle), .text = plainTexts::decoded(bytes)};
 }
 
 CarriedNote noteReaders::ofMarkdown(const QString &name, const QByteArray &bytes)
 {
-    static const QRegularExpression heading(QStringLiteral("^\\s*# +([^\\r\\n]*?)[ #]*(\\r\\n|$)"));
-    static const QRegularExpression hardBreak(QStringLiteral("  +(?=\\r\\n)"));
     static const QRegularExpression task(QStringLiteral("(^|\\n)([ \\t]*)[-*+] (\\[[ xX]\\])"));
     CarriedNote note = ofText(name, bytes);
-    if (const auto match = heading.match(note.text); match.hasMatch() && !match.captured(1).isEmpty()) {
-        note.title = match.captured(1).left(LongestTitle);
-        note.text = note.text.mid(match.capturedEnd());
-        if (note.text.startsWith(QLatin1String("\r\n")))
-            note.text = note.text.mid(2);
-    }
-    note.text.remove(hardBreak).replace(task, QStringLiteral("\\1\\2\\3"));
+    takeHeading(note);
+    QStringList lines = note.text.split(QLatin1String("\r\n"));
+    for (qsizetype i = 0; i + 1 < lines.size(); ++i)
+        if (lines.at(i).endsWith(QLatin1String("  ")))
+            chopAll(lines[i], u" ");
+    note.text = lines.join(QLatin1String("\r\n")).replace(task, QStringLiteral("\\1\\2\\3"));
     return note;
 }
 

@@ -22,6 +22,7 @@ private slots:
     void cleanup();
     void chosenNotesGoOut();
     void protectedNotesAskForTheirPassword();
+    void nothingMoreIsAskedAtTheEnd();
     void nothingIsReplacedUnasked();
     void filesComeIn();
     void otherProgramsAreLookedFor();
@@ -111,6 +112,31 @@ void testTransferWindows::protectedNotesAskForTheirPassword()
     noteExport::run(m_fixture->program, nullptr);
     QCOMPARE(m_fixture->test.prompts.last.text, u"Notes exported: 1.\nLeft out without their password: 1."_s);
     QCOMPARE(files(), QStringList{u"locked.txt"_s});
+}
+
+/// The program ends, and its windows go, while the first password is asked for.
+void testTransferWindows::nothingMoreIsAskedAtTheEnd()
+{
+    m_fixture->add(m_fixture->protectedRecord(u"first"_s, false, true));
+    m_fixture->add(m_fixture->protectedRecord(u"second"_s, false, true));
+    auto owner = std::make_unique<QWidget>();
+    owner->show();
+    int asked = 0;
+    QTimer prompts;
+    connect(&prompts, &QTimer::timeout, this, [&] {
+        auto *prompt = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (prompt == nullptr || prompt->objectName() != u"frmEnterPwd")
+            return;
+        ++asked;
+        m_fixture->program.Exiting = true;
+        owner ? owner.reset() : prompt->reject();
+    });
+    prompts.start(10);
+    answerDialog(u"frmExport"_s, [](QDialog &dialog) { press(dialog, "OKButton"); });
+    noteExport::run(m_fixture->program, owner.get());
+    QCOMPARE(asked, 1);
+    QVERIFY(files().isEmpty());
+    m_fixture->program.Exiting = false;
 }
 
 void testTransferWindows::nothingIsReplacedUnasked()

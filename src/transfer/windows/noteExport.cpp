@@ -49,10 +49,12 @@ CarriedNote carried(const clsNoteProps &note)
             .date = QLocale().toDateTime(note.DateCreated, QLocale::ShortFormat)};
 }
 
-std::vector<CarriedNote> notesOf(Program &program, const std::vector<qint32> &tags, QWidget *owner)
+std::vector<CarriedNote> notesOf(Program &program, const std::vector<qint32> &tags, const QPointer<QWidget> &owner)
 {
     std::vector<CarriedNote> notes;
     for (const qint32 tag : tags) {
+        if (program.Exiting)
+            break;
         const bool mayGo = mayLeave(program, tag, owner);
         NoteHolder *holder = program.forms.holderOf(tag);
         if (!mayGo || holder == nullptr)
@@ -80,7 +82,8 @@ bool confirms(Program &program, const noteFiles::Plan &plan, QWidget *owner)
                                  owner) == Prompts::Answer::Ok;
 }
 
-void write(Program &program, const QString &folder, const noteFiles::Plan &plan, size_t leftOut, QWidget *owner)
+void write(Program &program, const QString &folder, const noteFiles::Plan &plan, size_t leftOut,
+           const QPointer<QWidget> &owner)
 {
     if (plan.fresh.empty() && plan.different.empty() && leftOut == 0)
         return say(program, translated("All of these notes are in the folder already."), Message::Icon::None, owner);
