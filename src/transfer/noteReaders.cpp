@@ -285,6 +285,7 @@ std::vector<CarriedNote> noteReaders::ofCalendar(const QByteArray &bytes)
         }
     }
     std::vector<CarriedNote> notes;
+    notes.reserve(journals.size());
     for (Journal &journal : journals)
         notes.push_back(noteOf(std::move(journal)));
     return notes;

@@ -21,13 +21,13 @@ qint32 colourOf(int red, int green, int blue)
 /// Of what stands between "&" and ";"; empty for one that is not known.
 QString entity(const QString &name)
 {
-    static const QHash<QString, QString> Names{
+    static const QHash<QString, QString> names{
         {QStringLiteral("amp"), QStringLiteral("&")},  {QStringLiteral("lt"), QStringLiteral("<")},
         {QStringLiteral("gt"), QStringLiteral(">")},   {QStringLiteral("quot"), QStringLiteral("\"")},
         {QStringLiteral("apos"), QStringLiteral("'")}, {QStringLiteral("nbsp"), QString(QChar::Nbsp)},
     };
     if (!name.startsWith(u'#'))
-        return Names.value(name);
+        return names.value(name);
     const bool isHex = name.mid(1).startsWith(u'x', Qt::CaseInsensitive);
     bool isNumber = false;
     const uint code = isHex ? name.mid(2).toUInt(&isNumber, 16) : name.mid(1).toUInt(&isNumber, 10);
