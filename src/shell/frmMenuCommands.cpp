@@ -52,11 +52,14 @@ void frmMenu::runInPlace(PanelCommand command)
         m_pressGuard = false;
 }
 
-/// A new note comes where the keys were pressed: in the NoteStack it is a tab.
+/// A new note comes where the keys were pressed: in the NoteStack it is a tab. Saving shows no window, which would take
+/// what is typed on.
 void frmMenu::runFromKeys(PanelCommand command)
 {
     Form *stack = m_program.forms.find(formNames::NoteStack);
-    if (command == PanelCommand::New && stack != nullptr && stack->window()->isActiveWindow())
+    if (command == PanelCommand::Save && !m_pressGuard && !m_program.Exiting)
+        modForms::SaveAllNotes(m_program);
+    else if (command == PanelCommand::New && stack != nullptr && stack->window()->isActiveWindow())
         modCreateNote::createNewNote(m_program, Home::NoteStack, stack->window());
     else
         runInPlace(command);

@@ -24,7 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray bytes = bytesOf(data, size).toByteArray();
     requireNote(noteReaders::ofText(QStringLiteral("file"), bytes), bytes.size());
     requireNote(noteReaders::ofMarkdown(QStringLiteral("file"), bytes), bytes.size());
-    requireNote(noteReaders::ofXpad(bytes, bytes), bytes.size());
+    requireNote(noteReaders::ofXpad(bytes, bytes, bytes), bytes.size());
+    require(noteReaders::xpadContent(bytes).size() <= bytes.size());
     if (const auto note = noteReaders::ofGnote(bytes))
         requireNote(*note, qMax(bytes.size(), qsizetype(1) << 20));
     for (const CarriedNote &note : noteReaders::ofCalendar(bytes))

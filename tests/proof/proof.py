@@ -128,7 +128,6 @@ class TestProof(unittest.TestCase):
             for word in WORDS:
                 session.type_on(session.notes["Shopping"], " " + word, 0.03)
                 session.save_by_key()
-                time.sleep(0.2)
             killer.join()
             diary.bound += lag.stop()
             loaded = self.loader.load(home.folder)
