@@ -37,7 +37,7 @@ DesktopGroup::DesktopGroup(QWidget *dialog) : QGroupBox(tr("Desktop"), dialog)
     }
     if (!GlobalKeys::isSupported())
         return;
-    m_newNote = addKeys(*rows, "keyNewNote", tr("New note, in &all programs:"));
+    m_newNote = addKeys(*rows, "keyNewNote", tr("New note, in all p&rograms:"));
     m_showOrHideAll = addKeys(*rows, "keyShowOrHideAll", tr("Show or hide all, likew&ise:"));
 }
 
