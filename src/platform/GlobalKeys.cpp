@@ -6,6 +6,10 @@
 
 #include <QGuiApplication>
 
+#ifdef QUILLETS_HAS_DBUS
+#include "platform/PortalKeys.h"
+#endif
+
 #ifdef QUILLETS_HAS_XCB
 #include <xcb/xcb.h>
 
@@ -102,11 +106,20 @@ quint16 modifiersOf(Qt::KeyboardModifiers modifiers)
 
 #endif
 
+bool isOnX11()
+{
+#ifdef QUILLETS_HAS_XCB
+    return connection() != nullptr && !displayPlatform::isX11InWayland();
+#else
+    return false;
+#endif
+}
+
 } // namespace
 
 GlobalKeys::GlobalKeys(QObject *parent) : QObject(parent)
 {
-    if (isSupported())
+    if (isOnX11())
         qApp->installNativeEventFilter(this);
 }
 
@@ -117,11 +130,11 @@ GlobalKeys::~GlobalKeys()
 
 bool GlobalKeys::isSupported()
 {
-#ifdef QUILLETS_HAS_XCB
-    return connection() != nullptr && !displayPlatform::isX11InWayland();
-#else
-    return false;
+#ifdef QUILLETS_HAS_DBUS
+    if (displayPlatform::isX11InWayland() || displayPlatform::hidesPlaces())
+        return PortalKeys::isThere();
 #endif
+    return isOnX11();
 }
 
 bool GlobalKeys::canBe(const QKeySequence &keys)
@@ -134,14 +147,35 @@ bool GlobalKeys::canBe(const QKeySequence &keys)
 #endif
 }
 
-QList<QKeySequence> GlobalKeys::grab(const QList<QKeySequence> &keys)
+QList<QKeySequence> GlobalKeys::grab(const QList<Wanted> &wanted)
 {
     release();
     QList<QKeySequence> taken;
-    for (int index = 0; index < keys.size(); ++index)
-        if (isSupported() && !keys[index].isEmpty() && canBe(keys[index]) && !grabOne(keys[index], index))
-            taken.append(keys[index]);
+    if (!isSupported())
+        return taken;
+    if (!isOnX11())
+        askPortal(wanted);
+    for (int index = 0; isOnX11() && index < wanted.size(); ++index) {
+        const QKeySequence &keys = wanted[index].keys;
+        if (!keys.isEmpty() && canBe(keys) && !grabOne(keys, index))
+            taken.append(keys);
+    }
     return taken;
+}
+
+void GlobalKeys::askPortal([[maybe_unused]] const QList<Wanted> &wanted)
+{
+#ifdef QUILLETS_HAS_DBUS
+    if (m_portal == nullptr) {
+        m_portal = new PortalKeys(this);
+        connect(m_portal, &PortalKeys::pressed, this, [this](const QString &id) { emit pressed(id.toInt()); });
+        connect(m_portal, &PortalKeys::refused, this, &GlobalKeys::refused);
+    }
+    QList<PortalKeys::Wanted> asked;
+    for (int index = 0; index < wanted.size(); ++index)
+        asked.append({QString::number(index), wanted[index].description, wanted[index].keys});
+    m_portal->want(asked);
+#endif
 }
 
 bool GlobalKeys::grabOne([[maybe_unused]] const QKeySequence &keys, [[maybe_unused]] int index)

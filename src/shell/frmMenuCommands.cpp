@@ -8,6 +8,7 @@
 #include "forms/modFormsSaving.h"
 #include "forms/modHelp.h"
 #include "forms/showModally.h"
+#include "forms/whenAnswered.h"
 #include "notes/modCreateNote.h"
 #include "platform/DesktopActions.h"
 #include "platform/GlobalKeys.h"
@@ -106,6 +107,13 @@ void frmMenu::answerDesktop()
     m_keys = new GlobalKeys(this);
     connect(m_keys, &GlobalKeys::pressed, this,
             [this](int index) { runFromTray(index == 0 ? PanelCommand::New : PanelCommand::ShowOrHideAll); });
+    connect(m_keys, &GlobalKeys::refused, this, [this] {
+        whenAnswered(m_program, this, [this] {
+            m_program.prompts().tell({tr("The desktop gives Quillets no keys for all programs."),
+                                      QStringLiteral("Quillets"), Message::Icon::Exclamation},
+                                     isVisible() ? this : nullptr);
+        });
+    });
     grabKeys();
 }
 
@@ -115,7 +123,8 @@ void frmMenu::grabKeys()
         return;
     const clsKeySettings &settings = m_program.KeySettings;
     const QList<QKeySequence> taken =
-        m_keys->grab({QKeySequence::fromString(settings.NewNote), QKeySequence::fromString(settings.ShowOrHideAll)});
+        m_keys->grab({{QKeySequence::fromString(settings.NewNote), tr("New note")},
+                      {QKeySequence::fromString(settings.ShowOrHideAll), tr("Show or hide all notes")}});
     if (!taken.isEmpty())
         m_program.prompts().tell({tr("Another program has the key %1.  It does nothing in Quillets.")
                                       .arg(taken.first().toString(QKeySequence::NativeText)),
