@@ -89,8 +89,11 @@ public:
     DataFileState file;
     Forms forms;
     QTimer autoSave;
-    std::unique_ptr<JournalWriter> journal; ///< Null: none is kept.
     QTimer journalDue;
+    std::unique_ptr<JournalWriter> journal; ///< Null: none is kept.
+    /// Said when the journal can no longer be written, with the reason, and with an empty one when it can again.
+    std::function<void(const QString &)> journalTrouble;
+    bool journalFails = false;
     /// A window that "show or hide all notes" has hidden, and where it was.
     struct HiddenWindow
     {

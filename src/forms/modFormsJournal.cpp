@@ -15,6 +15,8 @@ namespace
 
 /// With the time that a write takes, what is typed is on the disk within a second.
 constexpr auto JournalDelay = 400ms;
+/// A disk that was full may have room again, though nobody types.
+constexpr auto RetryDelay = 5s;
 
 JournalSnapshot withoutNotes(const Program &program)
 {
@@ -55,21 +57,37 @@ void writeJournal(Program &program)
     program.journalDue.stop();
 }
 
+void journalWritten(Program &program, const JournalWriter::Outcome &written)
+{
+    if (program.journal == nullptr)
+        return;
+    if (!written && !program.journalDue.isActive())
+        program.journalDue.start(RetryDelay);
+    if (std::exchange(program.journalFails, !written.ok()) == !written.ok())
+        return;
+    if (program.journalTrouble)
+        program.journalTrouble(written ? QString() : written.error());
+}
+
 } // namespace
 
 void keepJournal(Program &program)
 {
-    program.journal = std::make_unique<JournalWriter>(program.paths().JournalFile);
+    program.journal =
+        std::make_unique<JournalWriter>(program.paths().JournalFile, [&program](const JournalWriter::Outcome &written) {
+            QMetaObject::invokeMethod(
+                &program.journalDue, [&program, written] { journalWritten(program, written); }, Qt::QueuedConnection);
+        });
     program.journalDue.setSingleShot(true);
-    program.journalDue.setInterval(JournalDelay);
     program.journalDue.callOnTimeout(&program.journalDue, [&program] { writeJournal(program); });
 }
 
 void armJournal(Program &program)
 {
     // Not started anew: that would wait as long as somebody types.
-    if (program.journal != nullptr && !program.journalDue.isActive())
-        program.journalDue.start();
+    const bool isSoon = program.journalDue.isActive() && program.journalDue.remainingTimeAsDuration() <= JournalDelay;
+    if (program.journal != nullptr && !isSoon)
+        program.journalDue.start(JournalDelay);
 }
 
 void settleJournal(Program &program)

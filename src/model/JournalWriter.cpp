@@ -18,14 +18,16 @@ QByteArray bytesOf(const JournalSnapshot &snapshot)
     return journalFile::encode(journal);
 }
 
-bool put(const QString &path, const JournalSnapshot &snapshot)
+JournalWriter::Outcome put(const QString &path, const JournalSnapshot &snapshot)
 {
-    return (snapshot.isEmpty() ? wholeFile::remove(path) : wholeFile::replace(path, bytesOf(snapshot))).ok();
+    return snapshot.isEmpty() ? wholeFile::remove(path) : wholeFile::replace(path, bytesOf(snapshot));
 }
 
 } // namespace
 
-JournalWriter::JournalWriter(QString path) : m_path(std::move(path)) {}
+JournalWriter::JournalWriter(QString path, std::function<void(const Outcome &)> written)
+    : m_path(std::move(path)), m_written(std::move(written))
+{}
 
 JournalWriter::~JournalWriter()
 {
@@ -78,10 +80,11 @@ void JournalWriter::run()
         const JournalSnapshot snapshot = *std::exchange(m_pending, std::nullopt);
         m_writing = true;
         lock.unlock();
-        const bool done = put(m_path, snapshot);
+        const Outcome done = put(m_path, snapshot);
+        m_written(done);
         lock.lock();
         m_writing = false;
-        m_failed = !done;
+        m_failed = !done.ok();
         m_changed.notify_all();
     }
 }

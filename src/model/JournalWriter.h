@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/Outcome.h"
 #include "model/journalFile.h"
 
 #include <QString>
 
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -35,7 +37,10 @@ struct JournalSnapshot
 class JournalWriter
 {
 public:
-    explicit JournalWriter(QString path);
+    using Outcome = ::Outcome<Done, QString>;
+
+    /// `written` is told how each write ended, on the thread that wrote.
+    JournalWriter(QString path, std::function<void(const Outcome &)> written);
     JournalWriter(const JournalWriter &) = delete;
     JournalWriter &operator=(const JournalWriter &) = delete;
     /// Writes what was asked for first.
@@ -54,6 +59,7 @@ private:
     bool isToWork() const { return m_pending.has_value() || m_ending; }
 
     const QString m_path;
+    const std::function<void(const Outcome &)> m_written;
     std::optional<JournalSnapshot> m_last; ///< None: whatever an earlier run has left.
     std::mutex m_mutex;                    ///< Of all that follows.
     std::condition_variable m_changed;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/modInit.h"
 
-#include "controls/QuietLine.h"
 #include "drawing/colours.h"
 #include "forms/NoteHolder.h"
 #include "forms/modForms.h"
@@ -30,10 +29,10 @@
 #include "platform/displayPlatform.h"
 #include "platform/windowStacking.h"
 #include "restore/deletions.h"
-#include "restore/restoring.h"
 #include "shell/frmMenu.h"
 #include "shell/frmSplash.h"
 #include "shell/modInitEnd.h"
+#include "shell/panelLines.h"
 
 #include <QApplication>
 #include <QDir>
@@ -50,7 +49,6 @@ namespace
 constexpr qint32 DesignBackColor = 0x0000FFFF;
 constexpr auto BeforeRestore = 100ms;
 constexpr auto BeforeOffer = 500ms; ///< The window manager has placed the panel by then.
-constexpr int OfferBelow = 60;
 constexpr QSize PanelDesignSize(4440, 3540);
 
 void tellFatal(Prompts &prompts, const QString &text)
@@ -118,32 +116,6 @@ void showPanel(Program &program, frmSplash &splash, frmMenu &panel)
     modForms::SaveAllNotes(program);
 }
 
-/// A place whose lower edge is below the panel.
-QRect below(const QWidget &panel)
-{
-    return panel.frameGeometry().adjusted(0, 0, 0, OfferBelow);
-}
-
-/// Nothing to decide, and so no box.
-void tellBroughtBack(Program &program, const QRect &place, int notes)
-{
-    const QString text =
-        QCoreApplication::translate("modInit", "Notes brought back that were not saved last time: %1.");
-    auto *line = new QuietLine(program, {text.arg(notes), QCoreApplication::translate("modInit", "OK"), {}, {}, [] {}});
-    line->showBy(place);
-}
-
-/// There is one quiet line at a time; what is damaged comes first.
-void tellRestored(Program &program, const frmMenu &panel, Restored restored)
-{
-    if (program.Exiting)
-        return;
-    if (restored.isDamaged)
-        restoring::offerRestore(program, below(panel));
-    else if (restored.broughtBack > 0)
-        tellBroughtBack(program, below(panel), restored.broughtBack);
-}
-
 int run(Program &program)
 {
     const QPointer<frmSplash> splash = new frmSplash(program);
@@ -167,6 +139,10 @@ int run(Program &program)
     EndSignals endSignals;
     saveWhenEnded(program, endSignals);
     splash->setStatus(QStringLiteral("Reading data file ... "));
+    program.journalTrouble = [&program, panel](const QString &reason) {
+        if (panel != nullptr)
+            panelLines::tellJournal(program, *panel, reason);
+    };
     modForms::keepJournal(program);
     const Restored restored = restoreNotes(program, splash);
     const ExitRescue rescue([&program] { modForms::rescueNotes(program); });
@@ -183,7 +159,8 @@ int run(Program &program)
     // When what was started is on the screen.
     QTimer::singleShot(0, panel, &frmMenu::answerDesktop);
     QMetaObject::invokeMethod(panel, &frmMenu::startReceiving, Qt::QueuedConnection);
-    QTimer::singleShot(BeforeOffer, panel, [&program, panel, restored] { tellRestored(program, *panel, restored); });
+    QTimer::singleShot(BeforeOffer, panel,
+                       [&program, panel, restored] { panelLines::tellRestored(program, *panel, restored); });
     const int result = QApplication::exec();
     delete panel;
     return result;
