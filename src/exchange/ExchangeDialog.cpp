@@ -70,7 +70,6 @@ QLayout *ExchangeDialog::makeButtons()
     sendButton->setDefault(true);
     auto *cancel = new QPushButton(tr("Cancel"), this);
     cancel->setObjectName(QStringLiteral("CancelButton"));
-    cancel->setAutoDefault(false);
     connect(sendButton, &QPushButton::clicked, this, [this] { send(); });
     connect(cancel, &QPushButton::clicked, this, &ExchangeDialog::reject);
     m_buttons = new QHBoxLayout;

@@ -45,6 +45,7 @@ private slots:
     void refusals();
     void oneBoxForEachFailure();
     void closingWhileItSends();
+    void enterOnItsButtons();
     void goesOnWithoutItsOwner();
     void aliasFromTheBook();
     void recentTargets();
@@ -167,6 +168,16 @@ void testSendDialog::closingWhileItSends()
     m_dialog->close();
     QVERIFY(!m_dialog->isVisible());
     QTRY_VERIFY(!isProgressShown());
+}
+
+void testSendDialog::enterOnItsButtons()
+{
+    ScriptedPeer silent({});
+    send(at(silent));
+    pressByKey(*m_dialog, "cmdStop");
+    QTRY_COMPARE(result(), u"Send canceled."_s);
+    pressByKey(*m_dialog, "CancelButton");
+    QVERIFY(!m_dialog->isVisible());
 }
 
 void testSendDialog::goesOnWithoutItsOwner()
