@@ -229,6 +229,17 @@ void testSendDialog::recentTargets()
     QCOMPARE(to().count(), 11);
     QCOMPARE(to().itemText(0), u"* View send book *"_s);
     QCOMPARE(to().itemText(1), recent.first());
+    // One that the file gives back in another form is still known.
+    const QString parted = u" %1 (a;b)"_s.arg(at(silent));
+    for (int k = 0; k < 2; ++k) {
+        send(parted);
+        press(*m_dialog, "cmdStop");
+        QTRY_VERIFY(!isProgressShown());
+    }
+    QCOMPARE(to().itemText(1), parted);
+    QCOMPARE(to().itemText(2), recent.first());
+    TestHome::setContents(m_home->paths.MiscFile, "\r\na;b;c;d;e;f;g;h;i;j;k;l\r\n");
+    QCOMPARE(control<QComboBox>(frmSend(m_test->program, nullptr, Times), "comTo").count(), 11);
 }
 
 void testSendDialog::keysOfTheTargets()
