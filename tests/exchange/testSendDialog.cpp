@@ -46,6 +46,7 @@ private slots:
     void oneBoxForEachFailure();
     void closingWhileItSends();
     void enterOnItsButtons();
+    void endsWhileABoxIsOpen();
     void goesOnWithoutItsOwner();
     void aliasFromTheBook();
     void recentTargets();
@@ -178,6 +179,22 @@ void testSendDialog::enterOnItsButtons()
     QTRY_COMPARE(result(), u"Send canceled."_s);
     pressByKey(*m_dialog, "CancelButton");
     QVERIFY(!m_dialog->isVisible());
+}
+
+/// As at the end of the program: nothing more is sent.
+void testSendDialog::endsWhileABoxIsOpen()
+{
+    ScriptedPeer closes({{0, "250", Turn::Then::Close}});
+    ScriptedPeer next({{0, "250"}});
+    const QPointer<QWidget> dialog = m_dialog.get();
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    m_test->prompts.whileOpen = [this] { m_dialog.release()->unload(); };
+    send(at(closes) + u", "_s + at(next));
+    QTRY_VERIFY(!dialog);
+    QTcpSocket another;
+    another.connectToHost(QHostAddress::LocalHost, next.port());
+    QTRY_COMPARE(another.bytesAvailable(), 3);
+    QCOMPARE(next.received.size(), 1);
 }
 
 void testSendDialog::goesOnWithoutItsOwner()
