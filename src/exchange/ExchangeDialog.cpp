@@ -35,7 +35,7 @@ ExchangeDialog::ExchangeDialog(Program &program, const Kind &kind, QWidget *owne
     layout->addLayout(makeButtons());
     m_progress->hide();
     connect(&m_progress->stopButton(), &QPushButton::clicked, this, [this] { stop(); });
-    m_to->setRecent(modFileIO::LoadRecentList(program.paths(), m_kindOfRecent));
+    m_to->setRecent(modFileIO::LoadRecentList(program.paths(), m_kindOfRecent).mid(0, MostRecent));
 }
 
 void ExchangeDialog::makeTargets(const QString &bookEntry)
@@ -70,7 +70,6 @@ QLayout *ExchangeDialog::makeButtons()
     sendButton->setDefault(true);
     auto *cancel = new QPushButton(tr("Cancel"), this);
     cancel->setObjectName(QStringLiteral("CancelButton"));
-    cancel->setAutoDefault(false);
     connect(sendButton, &QPushButton::clicked, this, [this] { send(); });
     connect(cancel, &QPushButton::clicked, this, &ExchangeDialog::reject);
     m_buttons = new QHBoxLayout;
@@ -102,11 +101,10 @@ QString ExchangeDialog::lastStep() const
 
 void ExchangeDialog::keepRecent()
 {
-    const ProgramPaths &paths = program().paths();
-    const QStringList recent = withRecent(modFileIO::LoadRecentList(paths, m_kindOfRecent), targets());
+    const QStringList recent = withRecent(m_to->recent(), targets());
     m_to->setRecent(recent);
     // The text is still in the box: a list that cannot be written loses nothing that anybody would miss.
-    static_cast<void>(modFileIO::SaveRecentList(paths, m_kindOfRecent, recent, recent.size()));
+    static_cast<void>(modFileIO::SaveRecentList(program().paths(), m_kindOfRecent, recent, recent.size()));
 }
 
 void ExchangeDialog::showProgress(bool on)

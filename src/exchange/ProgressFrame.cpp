@@ -22,7 +22,6 @@ ProgressFrame::ProgressFrame(QWidget *parent)
     m_bar->setAccessibleName(tr("Progress"));
     m_bar->setTextVisible(false);
     m_stop->setObjectName(QStringLiteral("cmdStop"));
-    m_stop->setAutoDefault(false);
     begin();
     auto *layout = new QGridLayout(this);
     layout->addWidget(status, 0, 0);

@@ -38,6 +38,14 @@ void TargetBox::setRecent(const QStringList &texts)
     setEditText(typed);
 }
 
+QStringList TargetBox::recent() const
+{
+    QStringList texts;
+    for (int i = 1; i <= m_recent; ++i)
+        texts.append(itemText(i));
+    return texts;
+}
+
 void TargetBox::addNearby(const QString &text)
 {
     if (!m_isOpen || count() >= MostEntries || findText(text, Qt::MatchFixedString) >= 0)

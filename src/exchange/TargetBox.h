@@ -14,6 +14,7 @@ public:
     TargetBox(const QString &bookEntry, QWidget *parent);
 
     void setRecent(const QStringList &texts);
+    QStringList recent() const;
     /// Below the recent ones, while the list is open.
     void addNearby(const QString &text);
 

@@ -36,7 +36,6 @@ QPushButton *button(const char *name, const QString &caption, QWidget *parent)
 {
     auto *made = new QPushButton(caption, parent);
     made->setObjectName(QLatin1String(name));
-    made->setAutoDefault(false);
     return made;
 }
 

@@ -49,7 +49,6 @@ frmEmail::frmEmail(Program &program, QWidget *owner, ExchangeTimes times)
     makeGrip();
     auto *other = new QPushButton(tr("Open in my &mail program"), this);
     other->setObjectName(QStringLiteral("cmdMailProgram"));
-    other->setAutoDefault(false);
     addButton(*other);
     connect(other, &QPushButton::clicked, this, &frmEmail::openInMailProgram);
     follow(m_sender);

@@ -10,6 +10,7 @@
 #include "platform/Nearby.h"
 
 #include <QLayout>
+#include <QPointer>
 
 frmSend::frmSend(Program &program, QWidget *owner, ExchangeTimes times)
     : ExchangeDialog(
@@ -85,8 +86,13 @@ void frmSend::finishTarget(const ExchangeResult &result)
     showProgress(false);
     if (result.end == ExchangeResult::End::Done)
         ++m_reached;
-    if (result.end == ExchangeResult::End::Failed)
-        tell(result.notice);
+    if (result.end != ExchangeResult::End::Failed)
+        return;
+    const QPointer<frmSend> self = this;
+    tell(result.notice);
+    // The program may have ended while the box was open.
+    if (self && isUnloaded())
+        m_run.stop();
 }
 
 void frmSend::finish()

@@ -19,6 +19,7 @@ IncomingExchange::IncomingExchange(QTcpSocket *socket, std::chrono::milliseconds
     : QObject(parent), m_socket(socket)
 {
     m_budget.setSingleShot(true);
+    m_budget.setTimerType(Qt::PreciseTimer);
     m_budget.setInterval(budget);
     connect(&m_budget, &QTimer::timeout, this, [this] { finish(std::nullopt); });
     connect(m_socket, &QTcpSocket::readyRead, this, &IncomingExchange::read);

@@ -21,8 +21,8 @@ void SendRun::start(const QByteArray &packet, const QList<SendTarget> &targets)
 
 void SendRun::stop()
 {
-    if (!m_targets.isEmpty())
-        m_targets.resize(1);
+    // The one under way tells that it was canceled.
+    m_targets.resize(m_sender.isRunning() ? 1 : 0);
     m_sender.stop();
 }
 
@@ -37,8 +37,11 @@ void SendRun::next()
     const QPointer<SendRun> self = this;
     const SendTarget target = m_targets.first();
     emit targetBegun(target);
-    if (self)
-        m_sender.start(m_packet, target);
+    if (!self)
+        return;
+    if (m_targets.isEmpty())
+        return next();
+    m_sender.start(m_packet, target);
 }
 
 void SendRun::finishTarget(const ExchangeResult &result)

@@ -2,13 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "net/recentTargets.h"
 
-namespace
-{
-
-constexpr qsizetype MostRecent = 10;
-
-} // namespace
-
 QStringList withRecent(QStringList list, const QString &text)
 {
     if (list.contains(text))

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+inline constexpr qsizetype MostRecent = 10;
+
 /// The recent list with a text that was used: in front when it is new, the list as it is when it is there already.
-/// Never more than ten.
+/// It never grows beyond MostRecent.
 QStringList withRecent(QStringList list, const QString &text);

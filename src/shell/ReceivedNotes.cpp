@@ -105,7 +105,8 @@ void ReceivedNotes::take(const Packet &packet, const QHostAddress &peer)
         return;
     }
     clsNoteProps record = std::move(decoded).value().note;
-    record.TitleBarTitle = visibleText::line(record.TitleBarTitle);
+    for (QString *const text : {&record.TitleBarTitle, &record.DateCreated})
+        *text = visibleText::line(*text);
     if (m_program.Exiting)
         keep(std::move(record));
     else

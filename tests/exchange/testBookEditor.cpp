@@ -117,7 +117,7 @@ void testBookEditor::writtenBack()
     QFETCH(Book, book);
     QFETCH(QByteArray, file);
     open(book, file);
-    press(*m_editor, "cmdCancel");
+    pressByKey(*m_editor, "cmdCancel");
     static_cast<void>(m_editor->GetBookResult());
     QCOMPARE(TestHome::contents(path(book)), file);
     open(book, file);
@@ -195,7 +195,7 @@ void testBookEditor::deleting()
 {
     open(Book::Send, "alias bob a.b\r\nalias lab c.d\r\n");
     m_test->prompts.expect(Prompts::Answer::Cancel);
-    press(*m_editor, "cmdDelete");
+    pressByKey(*m_editor, "cmdDelete");
     QCOMPARE(m_test->prompts.last.text, u"Delete alias 'bob' ?"_s);
     QCOMPARE(m_test->prompts.last.buttons, Message::Buttons::OkCancel);
     QCOMPARE(aliases().topLevelItemCount(), 2);

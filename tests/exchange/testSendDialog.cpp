@@ -45,6 +45,8 @@ private slots:
     void refusals();
     void oneBoxForEachFailure();
     void closingWhileItSends();
+    void enterOnItsButtons();
+    void endsWhileABoxIsOpen();
     void goesOnWithoutItsOwner();
     void aliasFromTheBook();
     void recentTargets();
@@ -169,6 +171,32 @@ void testSendDialog::closingWhileItSends()
     QTRY_VERIFY(!isProgressShown());
 }
 
+void testSendDialog::enterOnItsButtons()
+{
+    ScriptedPeer silent({});
+    send(at(silent));
+    pressByKey(*m_dialog, "cmdStop");
+    QTRY_COMPARE(result(), u"Send canceled."_s);
+    pressByKey(*m_dialog, "CancelButton");
+    QVERIFY(!m_dialog->isVisible());
+}
+
+/// As at the end of the program: nothing more is sent.
+void testSendDialog::endsWhileABoxIsOpen()
+{
+    ScriptedPeer closes({{0, "250", Turn::Then::Close}});
+    ScriptedPeer next({{0, "250"}});
+    const QPointer<QWidget> dialog = m_dialog.get();
+    m_test->prompts.expect(Prompts::Answer::Ok);
+    m_test->prompts.whileOpen = [this] { m_dialog.release()->unload(); };
+    send(at(closes) + u", "_s + at(next));
+    QTRY_VERIFY(!dialog);
+    QTcpSocket another;
+    another.connectToHost(QHostAddress::LocalHost, next.port());
+    QTRY_COMPARE(another.bytesAvailable(), 3);
+    QCOMPARE(next.received.size(), 1);
+}
+
 void testSendDialog::goesOnWithoutItsOwner()
 {
     ScriptedPeer good(goodReceiver(packet().size()));
@@ -218,6 +246,17 @@ void testSendDialog::recentTargets()
     QCOMPARE(to().count(), 11);
     QCOMPARE(to().itemText(0), u"* View send book *"_s);
     QCOMPARE(to().itemText(1), recent.first());
+    // One that the file gives back in another form is still known.
+    const QString parted = u" %1 (a;b)"_s.arg(at(silent));
+    for (int k = 0; k < 2; ++k) {
+        send(parted);
+        press(*m_dialog, "cmdStop");
+        QTRY_VERIFY(!isProgressShown());
+    }
+    QCOMPARE(to().itemText(1), parted);
+    QCOMPARE(to().itemText(2), recent.first());
+    TestHome::setContents(m_home->paths.MiscFile, "\r\na;b;c;d;e;f;g;h;i;j;k;l\r\n");
+    QCOMPARE(control<QComboBox>(frmSend(m_test->program, nullptr, Times), "comTo").count(), 11);
 }
 
 void testSendDialog::keysOfTheTargets()

@@ -252,6 +252,11 @@ void testNoteSender::stoppingTheRun()
     QTRY_COMPARE(silent.received.size(), 1);
     run.stop();
     QTRY_COMPARE(finished.size(), 1);
+    // Between two targets, while the failure of the first is told.
+    ScriptedPeer broken({{0, "", Then::Close}});
+    connect(&run, &SendRun::targetFinished, &run, &SendRun::stop);
+    run.start(encodePacket(samplePacket()), {at(broken), at(never)});
+    QTRY_COMPARE(finished.size(), 2);
     QVERIFY(never.received.isEmpty());
 }
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "forms/modFormsSaving.h"
 #include "model/networkSettingsFile.h"
 #include "net/NoteSender.h"
 #include "net/samplePackets.h"
@@ -12,6 +13,8 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTcpServer>
+
+#include <limits>
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -103,11 +106,19 @@ void testReceiving::hostileTexts()
 {
     Packet packet = samplePacket(u"text"_s);
     packet.senderName = u"A\nnn\u202E"_s;
-    packet.record = sampleRecord(u"Pay\u202Eexe.\u0007\n"_s, u"http://x.invalid"_s);
+    clsNoteProps note;
+    note.TitleBarTitle = u"Pay\u202Eexe.\u0007\n"_s;
+    note.DateCreated = u"today\n\u202E"_s;
+    note.Data = u"http://x.invalid"_s;
+    note.FrmHeight = note.FontSize = std::numeric_limits<float>::quiet_NaN();
+    packet.record.clear();
+    modStreams::EncodeSendRecord(note, packet.record);
     send(packet);
     QTRY_VERIFY(received() != nullptr);
     QCOMPARE(received()->GetThisNoteProps()->TitleBarTitle, u"Payexe.  "_s);
-    QVERIFY(received()->GetThisNoteProps()->DateCreated.contains(u" (A nn, "));
+    QVERIFY(received()->GetThisNoteProps()->DateCreated.startsWith(u"today  (A nn, "));
+    modForms::SaveAllNotes(m_fixture->program);
+    QVERIFY(!modForms::hasUnsavedNotes(m_fixture->program));
 }
 
 void testReceiving::waitsForAnswers_data()

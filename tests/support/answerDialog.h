@@ -41,3 +41,11 @@ inline void press(const QWidget &window, const char *name)
 {
     QTest::mouseClick(&control<QWidget>(window, name), Qt::LeftButton);
 }
+
+/// The same with Enter, on a window that is shown.
+inline void pressByKey(const QWidget &window, const char *name)
+{
+    auto &pressed = control<QWidget>(window, name);
+    pressed.setFocus();
+    QTest::keyClick(&pressed, Qt::Key_Return);
+}

@@ -35,7 +35,8 @@ void NoteHost::updateRecords()
     for (const qint32 tag : tags()) {
         const clsNoteProps now = recordNow(tag);
         LiveNote &note = *live(tag);
-        if (now == note.record)
+        // Not the records: a number in them that is none differs from itself.
+        if (now.Data == note.record.Data && now.TitleBarTitle == note.record.TitleBarTitle)
             continue;
         note.record = now;
         note.markChanged();
