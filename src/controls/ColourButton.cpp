@@ -17,7 +17,6 @@ ColourButton::ColourButton(const QString &name, const QString &accessibleName, Q
 {
     setObjectName(name);
     setAccessibleName(accessibleName);
-    setAutoDefault(false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

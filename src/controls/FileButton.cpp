@@ -39,7 +39,6 @@ FileButton::FileButton(const QString &name, const QString &accessibleName, Cut c
 {
     setObjectName(name);
     setAccessibleName(accessibleName);
-    setAutoDefault(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setPath({});
 }

@@ -75,7 +75,6 @@ QGroupBox *AppearancePage::makeFont(const QString &changeFont)
     m_preview = new FontPreview(group);
     m_font = new QPushButton(changeFont, group);
     m_font->setObjectName(QStringLiteral("cmdFont"));
-    m_font->setAutoDefault(false);
     m_font->setMinimumWidth(m_font->sizeHint().width() + 2 * Spacing);
     auto *layout = new QVBoxLayout(group);
     layout->addWidget(m_preview);

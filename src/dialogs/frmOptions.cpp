@@ -45,7 +45,6 @@ frmOptions::frmOptions(Program &program, QWidget *owner)
     addPage(QStringLiteral("fraOptions3"), tr("Networking"), networking, m_emailAddress);
     QPushButton *defaults = addButtons()->addButton(tr("Defa&ults"), QDialogButtonBox::ResetRole);
     defaults->setObjectName(QStringLiteral("cmdDefaults"));
-    defaults->setAutoDefault(false);
     connect(defaults, &QPushButton::clicked, this, &frmOptions::setDefaults);
 }
 

@@ -31,7 +31,6 @@ NotePreview::NotePreview(QWidget *parent)
     m_cover->setObjectName(QStringLiteral("fraLocked"));
     m_cover->setFrameStyle(m_text->frameStyle());
     m_unlock->setObjectName(QStringLiteral("cmdUnlock"));
-    m_unlock->setAutoDefault(false);
     auto *locked = new QLabel(tr("This Quillet is locked."), m_cover);
     locked->setObjectName(QStringLiteral("lblLocked"));
     auto *row = new QHBoxLayout(m_cover);

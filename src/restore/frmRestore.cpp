@@ -121,7 +121,6 @@ QWidget *frmRestore::makeButtons()
     m_ok = buttons->button(QDialogButtonBox::Ok);
     m_chooseAll = buttons->addButton(tr("&Choose all shown"), QDialogButtonBox::ResetRole);
     m_chooseAll->setObjectName(QStringLiteral("cmdChooseAll"));
-    m_chooseAll->setAutoDefault(false);
     return buttons;
 }
 

@@ -45,7 +45,6 @@ PasswordProtection::PasswordProtection(Program &program, PasswordFields fields, 
     m_protection->caption()->setObjectName(QStringLiteral("lblPwdHead"));
     m_choices->setObjectName(QStringLiteral("fraPasswordIn"));
     m_change->setObjectName(QStringLiteral("cmdChangePwd"));
-    m_change->setAutoDefault(false);
     m_change->setMinimumWidth(m_change->sizeHint().width() + Indent);
     m_openClose->explain(tr("The note opens locked."));
     m_readOnly->explain(tr("Changing or sending the note asks for the password."));

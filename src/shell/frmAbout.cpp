@@ -65,7 +65,6 @@ QWidget *frmAbout::makeButtons()
     auto *row = new QWidget(this);
     auto *credits = new QPushButton(tr("&Credits"), row);
     credits->setObjectName(QStringLiteral("cmdCredits"));
-    credits->setAutoDefault(false);
     connect(credits, &QPushButton::clicked, this, &frmAbout::showCredits);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -94,7 +94,7 @@ void testSettingsDialog::cancelled()
     clsNoteProps note = noteWithAll();
     open(note);
     m_test->choosers.colours = {QColor(Qt::red)};
-    press(*m_dialog, "cmdForeColor");
+    pressByKey(*m_dialog, "cmdForeColor");
     QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
     QVERIFY(!m_dialog->isVisible() && !m_dialog->SettingsResult(note) && note == noteWithAll());
 }

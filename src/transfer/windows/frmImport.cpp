@@ -33,7 +33,6 @@ frmImport::frmImport(Program &program, QWidget *owner)
     m_stack->setChecked(true);
     auto *files = new QPushButton(tr("Choose &files ..."), this);
     files->setObjectName(QStringLiteral("cmdFiles"));
-    files->setAutoDefault(false);
     connect(files, &QPushButton::clicked, this, &frmImport::chooseFiles);
     auto *told = new QLabel(tr("Text and Markdown files, and the notes of other programs where there are some. "
                                "Formatting becomes plain text."),
