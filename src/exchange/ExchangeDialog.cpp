@@ -49,6 +49,8 @@ void ExchangeDialog::makeTargets(const QString &bookEntry)
 
 void ExchangeDialog::addField(const char *name, const QString &caption, QWidget &field)
 {
+    if (const int rows = m_fields->rowCount(); rows > 0)
+        setTabOrder(m_fields->itemAt(rows - 1, QFormLayout::FieldRole)->widget(), &field);
     m_fields->addRow(caption, &field);
     m_fields->labelForField(&field)->setObjectName(QLatin1String(name));
 }

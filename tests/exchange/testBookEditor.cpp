@@ -24,6 +24,7 @@ private slots:
     void writtenBack_data();
     void writtenBack();
     void edits();
+    void keyboard();
     void refusedNames_data();
     void refusedNames();
     void selecting();
@@ -144,6 +145,22 @@ void testBookEditor::edits()
     static_cast<void>(m_editor->GetBookResult());
     QCOMPARE(TestHome::contents(path(Book::Send)),
              QByteArray("alias New1 a.b\r\nalias lab one.lan, , two.lan@1500\r\n"));
+}
+
+void testBookEditor::keyboard()
+{
+    open(Book::Address, "alias ann a@b\r\n");
+    press(*m_editor, "cmdAdd");
+    for (const char *const typed : {"lab", "x@y.z"}) {
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1StringView(typed));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"cmdAdd"_s);
+    QTest::keyClick(m_editor.get(), Qt::Key_D, Qt::AltModifier);
+    QCOMPARE(QApplication::focusWidget(), &box());
+    press(*m_editor, "cmdOK");
+    static_cast<void>(m_editor->GetBookResult());
+    QCOMPARE(TestHome::contents(path(Book::Address)), QByteArray("alias ann a@b\r\nalias lab x@y.z\r\n"));
 }
 
 void testBookEditor::refusedNames_data()

@@ -34,6 +34,7 @@ class testEmailDialog final : public QObject
 private slots:
     void init();
     void cleanup();
+    void tabOrder();
     void sends();
     void refusals_data();
     void refusals();
@@ -89,6 +90,14 @@ void testEmailDialog::send(const QString &to)
 {
     control<QComboBox>(*m_dialog, "comTo").setEditText(to);
     press(*m_dialog, "cmdSend");
+}
+
+void testEmailDialog::tabOrder()
+{
+    for (const char *const next : {"txtSubject", "txtBody", "cmdSend", "CancelButton"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1StringView(next));
+    }
 }
 
 void testEmailDialog::sends()
