@@ -63,7 +63,9 @@ bool AddressBoxes::eventFilter(QObject *, QEvent *event)
 {
     const bool isTyped =
         event->type() == QEvent::KeyPress && !static_cast<QKeyEvent *>(event)->text().trimmed().isEmpty();
-    if (event->type() == QEvent::MouseButtonPress || isTyped)
+    // A press that the box ignores would come once more, from around its text.
+    const bool isUse = isTyped || event->type() == QEvent::MouseButtonPress;
+    if (isUse)
         QMetaObject::invokeMethod(this, &AddressBoxes::usedWithoutAlias, Qt::QueuedConnection);
-    return isTyped;
+    return isUse;
 }

@@ -229,10 +229,12 @@ void testBookEditor::deleting()
 void testBookEditor::emptyBook()
 {
     open(Book::Address, "no alias here");
-    m_test->prompts.expect(Prompts::Answer::Ok);
-    QTest::mouseClick(control<QPlainTextEdit>(*m_editor, "txtNoAddress").viewport(), Qt::LeftButton);
-    QTRY_VERIFY(m_test->prompts.isDone());
-    QCOMPARE(m_test->prompts.last.text, u"Please add an alias name before proceeding."_s);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        m_test->prompts.expect(Prompts::Answer::Ok);
+        QTest::mouseClick(control<QPlainTextEdit>(*m_editor, "txtNoAddress").viewport(), button);
+        QTRY_VERIFY(m_test->prompts.isDone());
+        QCOMPARE(m_test->prompts.last.text, u"Please add an alias name before proceeding."_s);
+    }
 }
 
 void testBookEditor::wideCharacters()
