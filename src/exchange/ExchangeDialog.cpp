@@ -20,7 +20,8 @@
 namespace
 {
 constexpr int Margin = 14;
-}
+constexpr int LongestLine = 20; ///< Longer results have several lines.
+} // namespace
 
 ExchangeDialog::ExchangeDialog(Program &program, const Kind &kind, QWidget *owner)
     : ModalDialog(program, kind.name, kind.caption, nullptr), m_kindOfBook(kind.book), m_kindOfRecent(kind.recent),
@@ -124,6 +125,7 @@ void ExchangeDialog::showProgress(bool on)
 
 void ExchangeDialog::showResult(const QString &text)
 {
+    m_result->setWordWrap(text.size() > LongestLine);
     m_result->setText(text);
 }
 

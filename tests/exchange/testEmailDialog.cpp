@@ -35,6 +35,7 @@ private slots:
     void init();
     void cleanup();
     void tabOrder();
+    void smallestSize();
     void sends();
     void refusals_data();
     void refusals();
@@ -98,6 +99,13 @@ void testEmailDialog::tabOrder()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1StringView(next));
     }
+}
+
+void testEmailDialog::smallestSize()
+{
+    m_dialog->resize(m_dialog->minimumSize());
+    for (const char *const name : {"cmdMailProgram", "cmdSend", "CancelButton"})
+        QVERIFY(control<QWidget>(*m_dialog, name).width() >= control<QWidget>(*m_dialog, name).sizeHint().width());
 }
 
 void testEmailDialog::sends()
