@@ -33,7 +33,7 @@ MailServer serverOf(const Program &program)
                       .port = static_cast<quint16>(settings.MailPort),
                       .security = settings.MailSecurity};
     if (settings.MailSecurity != clsNetworkSettings::Security::None)
-        server.user = settings.MailUser;
+        server.user = settings.MailUser.trimmed();
     return server;
 }
 

@@ -178,7 +178,7 @@ void testEmailDialog::passwords()
     ScriptedMailServer server({});
     use(server);
     m_test->program.NetworkSettings.MailSecurity = clsNetworkSettings::Security::StartTls;
-    m_test->program.NetworkSettings.MailUser = u"ann"_s;
+    m_test->program.NetworkSettings.MailUser = u" ann "_s;
     const QString account = u"ann@127.0.0.1"_s;
     bool isAsked = false;
     const auto answer = [&isAsked](const char *button) {
