@@ -8,6 +8,8 @@
 
 AddressBoxes::AddressBoxes(QWidget *parent) : QStackedWidget(parent), m_none(new QPlainTextEdit(this))
 {
+    // The letter of its caption leads to no widget without a policy.
+    setFocusPolicy(Qt::ClickFocus);
     m_none->setObjectName(QStringLiteral("txtNoAddress"));
     m_none->setAccessibleName(tr("Addresses"));
     m_none->setReadOnly(true);
@@ -31,6 +33,8 @@ QPlainTextEdit *AddressBoxes::makeBox(QTreeWidgetItem *alias)
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
     box->setPlainText(m_lines.take(alias));
     addWidget(box);
+    // It is younger than what comes behind it.
+    setTabOrder(m_none, box);
     m_boxes.insert(alias, box);
     return box;
 }
@@ -59,7 +63,9 @@ bool AddressBoxes::eventFilter(QObject *, QEvent *event)
 {
     const bool isTyped =
         event->type() == QEvent::KeyPress && !static_cast<QKeyEvent *>(event)->text().trimmed().isEmpty();
-    if (event->type() == QEvent::MouseButtonPress || isTyped)
+    // A press that the box ignores would come once more, from around its text.
+    const bool isUse = isTyped || event->type() == QEvent::MouseButtonPress;
+    if (isUse)
         QMetaObject::invokeMethod(this, &AddressBoxes::usedWithoutAlias, Qt::QueuedConnection);
-    return isTyped;
+    return isUse;
 }

@@ -20,7 +20,8 @@
 namespace
 {
 constexpr int Margin = 14;
-}
+constexpr int LongestLine = 20; ///< Longer results have several lines.
+} // namespace
 
 ExchangeDialog::ExchangeDialog(Program &program, const Kind &kind, QWidget *owner)
     : ModalDialog(program, kind.name, kind.caption, nullptr), m_kindOfBook(kind.book), m_kindOfRecent(kind.recent),
@@ -49,6 +50,8 @@ void ExchangeDialog::makeTargets(const QString &bookEntry)
 
 void ExchangeDialog::addField(const char *name, const QString &caption, QWidget &field)
 {
+    if (const int rows = m_fields->rowCount(); rows > 0)
+        setTabOrder(m_fields->itemAt(rows - 1, QFormLayout::FieldRole)->widget(), &field);
     m_fields->addRow(caption, &field);
     m_fields->labelForField(&field)->setObjectName(QLatin1String(name));
 }
@@ -120,6 +123,7 @@ void ExchangeDialog::showProgress(bool on)
 
 void ExchangeDialog::showResult(const QString &text)
 {
+    m_result->setWordWrap(text.size() > LongestLine);
     m_result->setText(text);
 }
 

@@ -39,6 +39,23 @@ QPushButton *button(const char *name, const QString &caption, QWidget *parent)
     return made;
 }
 
+/// Tab leads from a name to its addresses, not into the name of the next alias.
+class AliasTree final : public QTreeWidget
+{
+public:
+    using QTreeWidget::QTreeWidget;
+
+protected:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override
+    {
+        const bool isTab = hint == QAbstractItemDelegate::EditNextItem;
+        const bool isBackTab = hint == QAbstractItemDelegate::EditPreviousItem;
+        QTreeWidget::closeEditor(editor, isTab || isBackTab ? QAbstractItemDelegate::NoHint : hint);
+        if (isTab)
+            focusNextChild();
+    }
+};
+
 } // namespace
 
 frmBook::frmBook(Program &program, QWidget *owner)
@@ -64,7 +81,7 @@ frmBook::frmBook(Program &program, QWidget *owner)
 QWidget *frmBook::makeAliases()
 {
     auto *column = new QWidget(this);
-    m_aliases = new QTreeWidget(column);
+    m_aliases = new AliasTree(column);
     m_aliases->setObjectName(QStringLiteral("treAddress"));
     m_aliases->setHeaderHidden(true);
     m_aliases->setRootIsDecorated(false);

@@ -24,6 +24,7 @@ namespace
 constexpr int GripSide = 16;
 constexpr QSize UsualSize(480, 380);
 constexpr QSize SmallestSize(380, 280);
+constexpr int ResultLetters = 8; ///< There is always room for beside the buttons.
 
 MailServer serverOf(const Program &program)
 {
@@ -32,7 +33,7 @@ MailServer serverOf(const Program &program)
                       .port = static_cast<quint16>(settings.MailPort),
                       .security = settings.MailSecurity};
     if (settings.MailSecurity != clsNetworkSettings::Security::None)
-        server.user = settings.MailUser;
+        server.user = settings.MailUser.trimmed();
     return server;
 }
 
@@ -46,11 +47,11 @@ frmEmail::frmEmail(Program &program, QWidget *owner, ExchangeTimes times)
       m_drag(*this), m_password(new MailPassword(program, this)), m_sender(times)
 {
     makeFields();
-    makeGrip();
     auto *other = new QPushButton(tr("Open in my &mail program"), this);
     other->setObjectName(QStringLiteral("cmdMailProgram"));
     addButton(*other);
     connect(other, &QPushButton::clicked, this, &frmEmail::openInMailProgram);
+    makeGrip();
     follow(m_sender);
     connect(&m_sender, &MailSender::finished, this, &frmEmail::finish);
 }
@@ -72,9 +73,11 @@ void frmEmail::makeGrip()
     QColor ink = palette().color(QPalette::WindowText);
     ink.setAlphaF(0.45F);
     m_grip->setInk(ink);
-    m_drag.setLimits(SmallestSize, WindowDrag::Height::Free);
-    setMinimumSize(SmallestSize);
-    resize(UsualSize);
+    const QSize result(ResultLetters * fontMetrics().averageCharWidth(), 0);
+    const QSize smallest = SmallestSize.expandedTo(minimumSizeHint() + result);
+    m_drag.setLimits(smallest, WindowDrag::Height::Free);
+    setMinimumSize(smallest);
+    resize(UsualSize.expandedTo(smallest));
 }
 
 bool frmEmail::isMissingOptions(Program &program, const clsNoteProps &record, QWidget *owner)

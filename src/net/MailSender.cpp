@@ -195,8 +195,9 @@ void MailSender::runStep()
     stopWait();
     if (!step.label.isEmpty() && !tellStep(step.label))
         return;
+    // What was said before a command is no reply to it.
+    remember(m_replies.drain());
     write(step.sends);
-    advance();
 }
 
 void MailSender::arrived(const QByteArray &bytes)
@@ -211,7 +212,7 @@ void MailSender::advance()
         const std::optional<SmtpReply> reply = m_replies.take();
         if (!reply)
             return;
-        remember(*reply);
+        remember(reply->lines);
         if (!isWaitedFor(*reply)) {
             refused(*reply);
             continue;
@@ -269,9 +270,9 @@ void MailSender::brokenOff(const QString &description)
         Exchange::brokenOff(description);
 }
 
-void MailSender::remember(const SmtpReply &reply)
+void MailSender::remember(const QStringList &lines)
 {
-    m_said += reply.lines;
+    m_said += lines;
     if (m_said.size() > MostSaid)
         m_said.remove(0, m_said.size() - MostSaid);
 }

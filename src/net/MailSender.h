@@ -59,7 +59,7 @@ private:
     void advance();
     bool isWaitedFor(const SmtpReply &reply) const;
     void refused(const SmtpReply &reply);
-    void remember(const SmtpReply &reply);
+    void remember(const QStringList &lines);
     void failWith(const QString &reason);
 
     MailServer m_server;

@@ -46,6 +46,16 @@ std::optional<SmtpReply> SmtpReplies::take()
     return m_replies.takeFirst();
 }
 
+QStringList SmtpReplies::drain()
+{
+    QStringList lines;
+    for (const SmtpReply &reply : std::as_const(m_replies))
+        lines += reply.lines;
+    lines += m_reply.lines;
+    clear();
+    return lines;
+}
+
 void SmtpReplies::endLine()
 {
     const QByteArray line = std::exchange(m_line, {});

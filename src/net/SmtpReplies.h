@@ -23,6 +23,8 @@ public:
     void add(QByteArrayView bytes);
     /// The next whole reply.
     std::optional<SmtpReply> take();
+    /// The lines of all that was not taken; nothing is left.
+    QStringList drain();
     /// Nothing has arrived that was not taken.
     bool isEmpty() const { return m_replies.isEmpty() && m_reply.lines.isEmpty() && m_line.isEmpty(); }
 

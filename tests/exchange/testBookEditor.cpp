@@ -24,6 +24,7 @@ private slots:
     void writtenBack_data();
     void writtenBack();
     void edits();
+    void keyboard();
     void refusedNames_data();
     void refusedNames();
     void selecting();
@@ -146,6 +147,22 @@ void testBookEditor::edits()
              QByteArray("alias New1 a.b\r\nalias lab one.lan, , two.lan@1500\r\n"));
 }
 
+void testBookEditor::keyboard()
+{
+    open(Book::Address, "alias ann a@b\r\n");
+    press(*m_editor, "cmdAdd");
+    for (const char *const typed : {"lab", "x@y.z"}) {
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1StringView(typed));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"cmdAdd"_s);
+    QTest::keyClick(m_editor.get(), Qt::Key_D, Qt::AltModifier);
+    QCOMPARE(QApplication::focusWidget(), &box());
+    press(*m_editor, "cmdOK");
+    static_cast<void>(m_editor->GetBookResult());
+    QCOMPARE(TestHome::contents(path(Book::Address)), QByteArray("alias ann a@b\r\nalias lab x@y.z\r\n"));
+}
+
 void testBookEditor::refusedNames_data()
 {
     QTest::addColumn<QString>("typed");
@@ -212,10 +229,12 @@ void testBookEditor::deleting()
 void testBookEditor::emptyBook()
 {
     open(Book::Address, "no alias here");
-    m_test->prompts.expect(Prompts::Answer::Ok);
-    QTest::mouseClick(control<QPlainTextEdit>(*m_editor, "txtNoAddress").viewport(), Qt::LeftButton);
-    QTRY_VERIFY(m_test->prompts.isDone());
-    QCOMPARE(m_test->prompts.last.text, u"Please add an alias name before proceeding."_s);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        m_test->prompts.expect(Prompts::Answer::Ok);
+        QTest::mouseClick(control<QPlainTextEdit>(*m_editor, "txtNoAddress").viewport(), button);
+        QTRY_VERIFY(m_test->prompts.isDone());
+        QCOMPARE(m_test->prompts.last.text, u"Please add an alias name before proceeding."_s);
+    }
 }
 
 void testBookEditor::wideCharacters()

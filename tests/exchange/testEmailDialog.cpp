@@ -34,6 +34,8 @@ class testEmailDialog final : public QObject
 private slots:
     void init();
     void cleanup();
+    void tabOrder();
+    void smallestSize();
     void sends();
     void refusals_data();
     void refusals();
@@ -89,6 +91,21 @@ void testEmailDialog::send(const QString &to)
 {
     control<QComboBox>(*m_dialog, "comTo").setEditText(to);
     press(*m_dialog, "cmdSend");
+}
+
+void testEmailDialog::tabOrder()
+{
+    for (const char *const next : {"txtSubject", "txtBody", "cmdSend", "CancelButton"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1StringView(next));
+    }
+}
+
+void testEmailDialog::smallestSize()
+{
+    m_dialog->resize(m_dialog->minimumSize());
+    for (const char *const name : {"cmdMailProgram", "cmdSend", "CancelButton"})
+        QVERIFY(control<QWidget>(*m_dialog, name).width() >= control<QWidget>(*m_dialog, name).sizeHint().width());
 }
 
 void testEmailDialog::sends()
@@ -161,7 +178,7 @@ void testEmailDialog::passwords()
     ScriptedMailServer server({});
     use(server);
     m_test->program.NetworkSettings.MailSecurity = clsNetworkSettings::Security::StartTls;
-    m_test->program.NetworkSettings.MailUser = u"ann"_s;
+    m_test->program.NetworkSettings.MailUser = u" ann "_s;
     const QString account = u"ann@127.0.0.1"_s;
     bool isAsked = false;
     const auto answer = [&isAsked](const char *button) {

@@ -132,7 +132,10 @@ void testMailSender::plain_data()
     }
     QTest::newRow("the whole time") << Good.first(3) << false << ShortWhole << u"Timeout"_s;
     QTest::newRow("all at once") << Replies{"220\r\n250\r\n250\r\n250\r\n250\r\n354\r\n250\r\n221\r\n"} << false
-                                 << Patient << QString();
+                                 << ShortWait << u"No Response"_s;
+    QTest::newRow("one ahead") << with(Good, 1, "250 a\r\n250 b\r\n") << false << Patient << QString();
+    QTest::newRow("refusal, one ahead") << with(with(Good, 1, "250 a\r\n250 b\r\n"), 4, "550 no\r\n") << false
+                                        << ShortWait << u"No Response"_s;
 }
 
 void testMailSender::plain()
