@@ -17,7 +17,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "fonts-dejavu-core, fonts-liberation, fonts-noto-cjk, fonts-noto-color-emoji, xdg-utils, libglib2.0-bin")
+    "fonts-dejavu-core, fonts-liberation, fonts-noto-cjk, fonts-noto-color-emoji, \
+libsecret-1-0, xdg-utils, libglib2.0-bin")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/conffiles "/etc/ufw/applications.d/quillets\n")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/conffiles)

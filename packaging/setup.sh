@@ -5,8 +5,9 @@
 
 BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev qtkeychain-qt6-dev
     libxcb1-dev libgl1-mesa-dev)
-# Fonts: Latin and symbols, the metric twins of the usual office faces, Japanese, Chinese and Korean, emoji.
-RUN_PACKAGES=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-color-emoji)
+# Fonts: Latin and symbols, the metric twins of the usual office faces, Japanese, Chinese and Korean, emoji. Then what
+# QtKeychain loads at run time where the desktop has a secret service.
+RUN_PACKAGES=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-color-emoji libsecret-1-0)
 DISPLAY_PACKAGES=(xvfb openbox x11vnc x11-apps imagemagick)
 PACKAGING_PACKAGES=(dpkg-dev file lintian)
 CHECK_PACKAGES=(clang-format clang-tidy shellcheck desktop-file-utils appstream)

@@ -75,7 +75,8 @@ void MailSender::start(const MailServer &server, const MailMessage &message)
     std::unique_ptr<QTcpSocket> socket;
     if (isSecure()) {
         auto secured = std::make_unique<QSslSocket>();
-        secured->setSslConfiguration(server.tls);
+        if (server.tls)
+            secured->setSslConfiguration(*server.tls);
         secured->setPeerVerifyMode(QSslSocket::VerifyPeer);
         socket = std::move(secured);
     } else {

@@ -7,6 +7,8 @@
 
 #include <QSslConfiguration>
 
+#include <optional>
+
 /// The mail server of the user.
 struct MailServer
 {
@@ -15,8 +17,9 @@ struct MailServer
     clsNetworkSettings::Security security = clsNetworkSettings::Security::None;
     QString user{};     ///< Empty: no log-in. It needs a security.
     QString password{}; ///< Goes to the server and nowhere else.
-    /// Whom to believe that it is the server: the system's authorities, unless a test says others.
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    /// Whom to believe that it is the server: the system's authorities, unless a test says others. Asking for those
+    /// loads megabytes, which mail without security need not pay.
+    std::optional<QSslConfiguration> tls{};
 
     quint16 usedPort() const;
     MailStyle style() const;

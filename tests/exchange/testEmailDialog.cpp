@@ -34,6 +34,7 @@ class testEmailDialog final : public QObject
 private slots:
     void init();
     void cleanup();
+    void loadsNoEncryption();
     void tabOrder();
     void smallestSize();
     void sends();
@@ -91,6 +92,17 @@ void testEmailDialog::send(const QString &to)
 {
     control<QComboBox>(*m_dialog, "comTo").setEditText(to);
     press(*m_dialog, "cmdSend");
+}
+
+/// Its libraries take megabytes, which plain mail does not need. The first test, since the server of others has them.
+void testEmailDialog::loadsNoEncryption()
+{
+    m_test->program.NetworkSettings.MailPort = 1; // Nobody listens there.
+    m_test->prompts.expect(Answer::Ok);
+    send(u"a@b.c"_s);
+    QTRY_VERIFY(m_test->prompts.isDone());
+    QFile libraries(u"/proc/self/maps"_s);
+    QVERIFY(!libraries.open(QIODevice::ReadOnly) || !libraries.readAll().contains("opensslbackend"));
 }
 
 void testEmailDialog::tabOrder()

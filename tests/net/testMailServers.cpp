@@ -58,8 +58,10 @@ void testMailServers::mails()
     MailServer server{u"localhost"_s, process.readLine().trimmed().toUShort(), security};
     server.user = security == Security::None ? QString() : u"ann"_s;
     server.password = password;
-    if (!certificate.isEmpty())
-        server.tls.setCaCertificates(QSslCertificate::fromPath(tls + u"authority.pem"_s));
+    if (!certificate.isEmpty()) {
+        server.tls = QSslConfiguration::defaultConfiguration();
+        server.tls->setCaCertificates(QSslCertificate::fromPath(tls + u"authority.pem"_s));
+    }
     MailDraft draft;
     draft.senderAddress = u"me@home.example"_s;
     draft.recipients = {{u"a@b.example"_s, u"Zo\u00EB"_s}, {u"c@d.example"_s, {}}};
