@@ -27,6 +27,7 @@ private slots:
     void restoringChangesNothing();
     void missingFilesAreTold();
     void flashOutlivesItsDialog();
+    void flashComesBeforeNoBox();
     void rolling();
     void toolbarTwice_data();
     void toolbarTwice();
@@ -195,6 +196,31 @@ void testNotes::flashOutlivesItsDialog()
     QVERIFY(flash->isFlashing() && !note->GetThisNoteProps()->AlarmOn);
     QTest::mouseClick(&NoteFixture::control<QWidget>(*note, "lblDisplay"), Qt::LeftButton);
     QVERIFY(!flash->isFlashing());
+}
+
+void testNotes::flashComesBeforeNoBox()
+{
+    class Raises final : public QObject
+    {
+    public:
+        int count = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+            return false;
+        }
+    } raises;
+    frmNote *note = m_fixture->create(u"flashing"_s);
+    note->installEventFilter(&raises);
+    auto *flash = note->findChild<NoteFlash *>();
+    QDialog box;
+    box.setModal(true);
+    box.show();
+    flash->StartFlashing(Qt::yellow);
+    QVERIFY(flash->isFlashing() && raises.count == 0);
+    box.hide();
+    flash->StartFlashing(Qt::yellow);
+    QCOMPARE(raises.count, 1);
 }
 
 void testNotes::rolling()
