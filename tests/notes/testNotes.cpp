@@ -5,7 +5,9 @@
 #include "notes/NoteFixture.h"
 #include "support/answerDialog.h"
 
+#include <QClipboard>
 #include <QDialog>
+#include <QTextDocumentFragment>
 
 #include <limits>
 
@@ -28,6 +30,7 @@ private slots:
     void missingFilesAreTold();
     void flashOutlivesItsDialog();
     void flashComesBeforeNoBox();
+    void lockTakesTheSelection();
     void rolling();
     void toolbarTwice_data();
     void toolbarTwice();
@@ -221,6 +224,20 @@ void testNotes::flashComesBeforeNoBox()
     box.hide();
     flash->StartFlashing(Qt::yellow);
     QCOMPARE(raises.count, 1);
+}
+
+void testNotes::lockTakesTheSelection()
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (!clipboard->supportsSelection())
+        QSKIP("There is no primary selection here.");
+    frmNote *note = m_fixture->create(u"one\r\ntwo"_s);
+    QPlainTextEdit &editor = NoteFixture::edit(*note);
+    editor.selectAll();
+    clipboard->setText(editor.textCursor().selection().toPlainText(), QClipboard::Selection);
+    QCOMPARE(clipboard->text(QClipboard::Selection), u"one\ntwo"_s);
+    note->setLocked(note->Tag(), true);
+    QCOMPARE(clipboard->text(QClipboard::Selection), QString());
 }
 
 void testNotes::rolling()
