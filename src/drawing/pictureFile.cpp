@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace pictureFile
 {
@@ -18,6 +19,7 @@ namespace
 {
 
 constexpr qint64 MostPixels = 100'000'000;
+constexpr qint64 MostPixelsKept = 16'000'000; ///< 64 MB
 constexpr int MostMegabytes = 512;
 
 /// By an own list and the name of the reader: what a content is taken for must not open further kinds.
@@ -53,8 +55,12 @@ private:
 
 QSize decodedSize(QSize size, QSize cover)
 {
-    const QSize covering = size.scaled(cover, Qt::KeepAspectRatioByExpanding);
-    return covering.width() < size.width() ? covering.expandedTo({1, 1}) : size;
+    // In floating point: what covers a square with a strip of pixels is no number of pixels.
+    const double width = size.width();
+    const double height = size.height();
+    const double factor =
+        qMin(qMax(cover.width() / width, cover.height() / height), std::sqrt(MostPixelsKept / (width * height)));
+    return factor < 1 ? QSize(qRound(width * factor), qRound(height * factor)).expandedTo({1, 1}) : size;
 }
 
 /// False for what is of no size or of too much.
@@ -65,11 +71,15 @@ bool isBounded(QSize size)
 
 QImage readMetafile(const QString &path, const QByteArray &kind, QSize cover)
 {
-    QByteArray png = metafile::toPng(path, kind, qMax(cover.width(), 1));
+    // How wide it is for its height is seen afterwards.
+    QByteArray png = metafile::toPng(path, kind, qMax(1, 2 * qMax(cover.width(), cover.height())));
     QBuffer buffer(&png);
     QImageReader reader(&buffer, "png");
     reader.setAllocationLimit(MostMegabytes);
-    return isBounded(reader.size()) ? reader.read() : QImage();
+    if (!isBounded(reader.size()))
+        return {};
+    reader.setScaledSize(decodedSize(reader.size(), cover));
+    return reader.read();
 }
 
 } // namespace
@@ -91,7 +101,8 @@ QImage read(const QString &path, QSize cover)
     const QSize size = reader.size();
     if (!isBounded(size))
         return {};
-    reader.setScaledSize(decodedSize(size, cover));
+    const bool isTurned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
+    reader.setScaledSize(decodedSize(size, isTurned ? cover.transposed() : cover));
     const QByteArray format = reader.format();
     file.forget(); // Asking for the size may have read to the end.
     const QImage picture = reader.read();

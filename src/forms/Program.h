@@ -3,6 +3,7 @@
 #pragma once
 
 #include "drawing/Pictures.h"
+#include "drawing/SharedPictures.h"
 #include "drawing/Twips.h"
 #include "forms/DeletedNote.h"
 #include "forms/Forms.h"
@@ -86,6 +87,7 @@ public:
     clsNoteProps NewNoteDefaults;
     clsNoteProps NoteTemplate;
 
+    SharedPictures backgrounds;
     DataFileState file;
     Forms forms;
     QTimer autoSave;

@@ -106,6 +106,7 @@ bool frmNote::become(clsNoteProps record, const QRect &geometry, NoteCreateMode 
     if (!m_note.record.ToolBarOn)
         RemoveToolBar();
     m_place.placeAt(geometry);
+    LayoutNote(); // A picture is read in the size of the body.
     ApplyNoteAppearance();
     if (self != nullptr && !isUnloaded())
         ApplyNoteState(mode);

@@ -75,7 +75,8 @@ void frmNoteStack::restoreOrder()
     std::vector<stackOrder::Note> notes;
     qint32 chosenNow = m_notes->isEmpty() ? 0 : chosen()->tag();
     for (const qint32 tag : tags()) {
-        notes.push_back({tag, m_program.file.image.keyOf(tag)});
+        // The image is ahead of it where the journal has brought something back.
+        notes.push_back({tag, m_program.file.disk.keyOf(tag)});
         if (!chosenBefore.isEmpty() && notes.back().key == chosenBefore)
             chosenNow = tag;
     }

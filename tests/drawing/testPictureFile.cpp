@@ -55,6 +55,8 @@ class testPictureFile final : public QObject
 private slots:
     void reads_data();
     void reads();
+    void sizes_data();
+    void sizes();
     void foldersAndMissingFiles();
     void metafiles_data();
     void metafiles();
@@ -97,6 +99,29 @@ void testPictureFile::reads()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
     QCOMPARE(!pictureFile::read(file.fileName(), {100, 100}).isNull(), shown);
+}
+
+void testPictureFile::sizes_data()
+{
+    QTest::addColumn<QSize>("file");
+    QTest::addColumn<QSize>("cover");
+    QTest::addColumn<QSize>("read");
+    QTest::newRow("wide place") << QSize(400, 300) << QSize(200, 50) << QSize(200, 150);
+    QTest::newRow("high place") << QSize(400, 300) << QSize(50, 150) << QSize(200, 150);
+    QTest::newRow("larger than the file") << QSize(400, 300) << QSize(4000, 50) << QSize(400, 300);
+    QTest::newRow("strip") << QSize(2'000'000, 1) << QSize(3840, 2160) << QSize(2'000'000, 1);
+    QTest::newRow("more than is kept") << QSize(40'000, 1'000) << QSize(1'000, 1'000) << QSize(25'298, 632);
+}
+
+void testPictureFile::sizes()
+{
+    QFETCH(QSize, file);
+    QFETCH(QSize, cover);
+    const QTemporaryDir folder;
+    QImage picture(file, QImage::Format_Mono);
+    picture.fill(1);
+    QVERIFY(picture.save(folder.filePath(u"a.bmp"_s)));
+    QTEST(pictureFile::read(folder.filePath(u"a.bmp"_s), cover).size(), "read");
 }
 
 void testPictureFile::foldersAndMissingFiles()

@@ -5,7 +5,9 @@
 #include "notes/NoteFixture.h"
 #include "support/answerDialog.h"
 
+#include <QClipboard>
 #include <QDialog>
+#include <QTextDocumentFragment>
 
 #include <limits>
 
@@ -27,6 +29,8 @@ private slots:
     void restoringChangesNothing();
     void missingFilesAreTold();
     void flashOutlivesItsDialog();
+    void flashComesBeforeNoBox();
+    void lockTakesTheSelection();
     void rolling();
     void toolbarTwice_data();
     void toolbarTwice();
@@ -195,6 +199,45 @@ void testNotes::flashOutlivesItsDialog()
     QVERIFY(flash->isFlashing() && !note->GetThisNoteProps()->AlarmOn);
     QTest::mouseClick(&NoteFixture::control<QWidget>(*note, "lblDisplay"), Qt::LeftButton);
     QVERIFY(!flash->isFlashing());
+}
+
+void testNotes::flashComesBeforeNoBox()
+{
+    class Raises final : public QObject
+    {
+    public:
+        int count = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+            return false;
+        }
+    } raises;
+    frmNote *note = m_fixture->create(u"flashing"_s);
+    note->installEventFilter(&raises);
+    auto *flash = note->findChild<NoteFlash *>();
+    QDialog box;
+    box.setModal(true);
+    box.show();
+    flash->StartFlashing(Qt::yellow);
+    QVERIFY(flash->isFlashing() && raises.count == 0);
+    box.hide();
+    flash->StartFlashing(Qt::yellow);
+    QCOMPARE(raises.count, 1);
+}
+
+void testNotes::lockTakesTheSelection()
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (!clipboard->supportsSelection())
+        QSKIP("There is no primary selection here.");
+    frmNote *note = m_fixture->create(u"one\r\ntwo"_s);
+    QPlainTextEdit &editor = NoteFixture::edit(*note);
+    editor.selectAll();
+    clipboard->setText(editor.textCursor().selection().toPlainText(), QClipboard::Selection);
+    QCOMPARE(clipboard->text(QClipboard::Selection), u"one\ntwo"_s);
+    note->setLocked(note->Tag(), true);
+    QCOMPARE(clipboard->text(QClipboard::Selection), QString());
 }
 
 void testNotes::rolling()

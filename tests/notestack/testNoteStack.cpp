@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "forms/modFormsJournal.h"
 #include "notestack/StackFixture.h"
 
 #include <QMenu>
@@ -29,6 +30,7 @@ private slots:
     void leavingCommits();
     void lockedTextIsNowhere();
     void orderIsKept();
+    void orderOutlivesACrash();
     void blankTitleIsTold();
     void locks();
     void wrongPasswords_data();
@@ -237,6 +239,33 @@ void testNoteStack::orderIsKept()
     QCOMPARE(tabs.currentIndex(), 1);
     QCOMPARE(NoteFixture::control<QLabel>(next, "lblDisplay(3)").text(), u"new"_s);
     QVERIFY(NoteFixture::control<QLabel>(next, "lblDisplay(1)").isVisibleTo(&next));
+}
+
+/// What was edited stands in the data file as it was before.
+void testNoteStack::orderOutlivesACrash()
+{
+    Program &program = m_fixture->program;
+    m_fixture->addAll({u"a"_s, u"b"_s, u"c"_s});
+    modForms::SaveAllNotes(program);
+    modForms::keepJournal(program);
+    clsNoteProps &edited = *m_fixture->stack.recordOf(2);
+    edited.Data = u"more"_s;
+    edited.SaveTag = 1;
+    modForms::settleJournal(program);
+    frmNoteStack next(program);
+    next.Initialize();
+    QStringList found;
+    const auto take = [&](clsNoteProps &&note) {
+        found.append(note.Data);
+        note.Tag = static_cast<qint32>(found.size());
+        next.AddANote(note);
+        return note.Tag;
+    };
+    modFileIO::LoadDataFile(program.file, {}, 100, take, {}, {}, program.clock().now());
+    QCOMPARE(found, QStringList({u"c"_s, u"more"_s, u"a"_s}));
+    next.restoreOrder();
+    const auto &tabs = *next.findChild<NoteTabs *>();
+    QCOMPARE(QStringList({tabs.caption(0), tabs.caption(1), tabs.caption(2)}), QStringList({u"a"_s, u"b"_s, u"c"_s}));
 }
 
 void testNoteStack::blankTitleIsTold()

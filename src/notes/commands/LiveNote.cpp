@@ -77,7 +77,8 @@ void LiveNote::setLocked(bool on)
     body.forgetText();
     // What was selected in it can be pasted by the middle button.
     QClipboard *clipboard = QGuiApplication::clipboard();
-    if (clipboard->ownsSelection() && record.Data.contains(clipboard->text(QClipboard::Selection)))
+    const QString text = QString(record.Data).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (clipboard->ownsSelection() && text.contains(clipboard->text(QClipboard::Selection)))
         clipboard->clear(QClipboard::Selection);
 }
 

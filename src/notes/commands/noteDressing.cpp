@@ -29,7 +29,7 @@ void dressPicture(Program &program, clsNoteProps &note, NoteBody &body, QWidget 
         return;
     }
     const bool found = QFileInfo::exists(note.PicFile);
-    if (found && body.setPicture(note.PicFile))
+    if (found && body.setPicture(program.backgrounds.of(note.PicFile)))
         return;
     body.setPicture({});
     const QString what = found ? QCoreApplication::translate("noteDressing", "The image %1 could not be read.")

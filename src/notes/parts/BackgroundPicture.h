@@ -2,29 +2,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPixmap>
-#include <QString>
+#include "drawing/SharedPicture.h"
+
 #include <QWidget>
 
-/// A note's background picture, scaled to cover its place without distortion. A file is decoded once, no larger than
-/// a screen can show, and scaled once for each size.
+#include <memory>
+
+/// A note's background picture, scaled to cover its place without distortion.
 class BackgroundPicture final : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit BackgroundPicture(QWidget *parent);
+    ~BackgroundPicture() override;
 
     /// False when the file is no picture of a kind that notes can show; nothing is shown then.
-    [[nodiscard]] bool load(const QString &path);
+    [[nodiscard]] bool setPicture(std::shared_ptr<SharedPicture> picture);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void scaleTo(QSize size);
+    QSize pixels() const;
+    void letGo();
 
-    QString m_key;     ///< Of the file as it is.
-    QPixmap m_picture; ///< Shared by all notes that show the file.
-    QPixmap m_scaled;  ///< Shared by those of the same size.
+    std::shared_ptr<SharedPicture> m_picture;
+    bool m_isFirst = true; ///< Not painted yet: sharp at once.
+    bool m_isSharp = true;
 };

@@ -93,9 +93,9 @@ void NoteBody::setText(const QString &text)
     m_text->setCaption(modForms::DoubleFirstAmpersand(text));
 }
 
-bool NoteBody::setPicture(const QString &path)
+bool NoteBody::setPicture(std::shared_ptr<SharedPicture> picture)
 {
-    if (path.isEmpty()) {
+    if (picture == nullptr) {
         delete m_picture;
         return true;
     }
@@ -106,7 +106,7 @@ bool NoteBody::setPicture(const QString &path)
         m_picture->show();
         nameControls();
     }
-    if (m_picture->load(path))
+    if (m_picture->setPicture(std::move(picture)))
         return true;
     delete m_picture;
     return false;

@@ -31,8 +31,8 @@ public:
     /// Another font for the text that is shown: the line at the top stays there.
     void changeFont(const QFont &font);
     void setText(const QString &text);
-    /// An empty path takes the picture away. False when the file cannot be shown.
-    bool setPicture(const QString &path);
+    /// Null takes the picture away. False when the file cannot be shown.
+    bool setPicture(std::shared_ptr<SharedPicture> picture);
 
     /// Scrolls the text that is shown; false while it is edited or hidden, and for keys that scroll nothing.
     bool scrollByKey(const QKeyEvent &key) const { return m_shown && !m_editing && m_text->scrollByKey(key); }
