@@ -8,9 +8,6 @@
 #include <QPixmapCache>
 
 #include <cmath>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 using namespace std::chrono_literals;
 
@@ -67,23 +64,16 @@ QImage nearest(const QImage &picture, const QString &key, QSize size)
     return pixmap.toImage();
 }
 
-/// What reading and scaling have freed would stay with the program: pictures of many sizes leave holes.
-void giveMemoryBack()
-{
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
-
 } // namespace
 
-SharedPicture::SharedPicture(QString path, QString key) : m_path(std::move(path)), m_key(std::move(key))
+SharedPicture::SharedPicture(QString path, QString key, const std::function<void()> &rested)
+    : m_path(std::move(path)), m_key(std::move(key))
 {
     m_rest.setSingleShot(true);
     m_rest.setInterval(GrowingRests);
-    connect(&m_rest, &QTimer::timeout, this, [this] {
+    connect(&m_rest, &QTimer::timeout, this, [this, rested] {
         fit();
-        giveMemoryBack();
+        rested();
     });
 }
 

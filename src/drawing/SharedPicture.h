@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
 class QPainter;
 
 /// A picture file that covers places on the screen. It is decoded once for all of them, just large enough for the
@@ -17,8 +19,8 @@ class SharedPicture final : public QObject
     Q_OBJECT
 
 public:
-    /// `key` tells this state of the file from others.
-    SharedPicture(QString path, QString key);
+    /// `key` tells this state of the file from others; `rested` is called when nothing more was drawn for a while.
+    SharedPicture(QString path, QString key, const std::function<void()> &rested);
 
     /// `who` shows it in this size from now on, until it says `leave`.
     void cover(const QObject *who, QSize size);

@@ -16,7 +16,7 @@ std::shared_ptr<SharedPicture> SharedPictures::of(const QString &path)
     std::weak_ptr<SharedPicture> &shown = m_shown[key];
     std::shared_ptr<SharedPicture> picture = shown.lock();
     if (picture == nullptr) {
-        picture = std::make_shared<SharedPicture>(path, key);
+        picture = std::make_shared<SharedPicture>(path, key, m_rested);
         shown = picture;
     }
     return picture;

@@ -11,6 +11,7 @@
 #include "platform/Printing.h"
 #include "platform/Prompts.h"
 #include "platform/SoundPlayer.h"
+#include "platform/freeMemory.h"
 
 #include <QLocale>
 
@@ -21,7 +22,7 @@ constexpr float DialogOffsetDesign = 250.0F;
 
 Program::Program(Services services, const ProgramPaths &paths, double logicalDpi)
     : twips(logicalDpi), ScaleFactor(twips.scaleFactor()), DialogOffset(DialogOffsetDesign * ScaleFactor),
-      m_services(std::move(services))
+      backgrounds(freeMemory::giveBack), m_services(std::move(services))
 {
     file.paths = paths;
 }
