@@ -45,20 +45,14 @@ private slots:
         QCOMPARE(one.received.size() + other.received.size(), 3);
     }
 
-    void refusals_data()
-    {
-        const Rows<QString, QString> row; // targets, caption
-        row("nothing", u"  "_s, u"No Remote Host Specified"_s);
-        row("unknown alias", u"10.0.0.1, bob"_s, u"Host Address Resolution Error"_s);
-        row("commas", u" , ,"_s, u"Host Address Resolution Error"_s);
-    }
-
     void refusals()
     {
-        const auto [targets, caption] = fetchRow<QString, QString>();
-        const Message told = m_fixture->boxOf([this, &all = targets] { m_fixture->send(all); });
-        QCOMPARE(told.caption, caption);
-        QVERIFY(told.icon == Message::Icon::Critical && !m_fixture->isProgressShown());
+        for (const auto &[targets, caption] : {std::pair(u"  "_s, u"No Remote Host Specified"_s),
+                                               {u"10.0.0.1, bob"_s, u"Host Address Resolution Error"_s}}) {
+            const Message told = m_fixture->boxOf([this, &all = targets] { m_fixture->send(all); });
+            QCOMPARE(told.caption, caption);
+            QVERIFY(told.icon == Message::Icon::Critical && !m_fixture->isProgressShown());
+        }
         QVERIFY(modFileIO::LoadRecentList(m_fixture->home.paths, RecentList::Send).isEmpty());
     }
 
