@@ -2,16 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/TestProgram.h"
-#include "support/answerDialog.h"
+#include "support/ProgramFixture.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QDialog>
 #include <QLabel>
 #include <QSet>
 #include <QTabWidget>
-#include <QTest>
 
 /// Looks at every page of a dialog for what nobody could read or reach.
 inline void checkPages(const QDialog &dialog)

@@ -2,26 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "alarms/modAlarm.h"
 #include "forms/NoteHolder.h"
-#include "forms/modForms.h"
-#include "forms/modFormsSaving.h"
 #include "notes/frmNote.h"
 #include "notes/modCreateNote.h"
-#include "support/TestHome.h"
-#include "support/TestProgram.h"
-#include "support/failOnWarnings.h"
+#include "support/ProgramFixture.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
 
 /// A program with the built-in options, and ways to get at its notes and their controls.
-class NoteFixture
+class NoteFixture : public ProgramFixture
 {
 public:
-    NoteFixture() : test(QDateTime(QDate(2026, 3, 1), QTime(12, 0)), home.paths), program(test.program)
+    NoteFixture()
     {
         program.DefaultOptions =
             modFileIO::SetProgramDefaults(home.paths, {0x0000FFFF, 0, QStringLiteral("DejaVu Sans"), 9});
@@ -29,31 +27,46 @@ public:
         program.ProgramOptions.TitleBarOn = false;
         program.BuildNoteDefaults();
     }
-    ~NoteFixture()
-    {
-        modForms::CloseAllWindows(program);
-        deleteUnloaded();
-    }
 
+    clsNoteProps record(const QString &text) const
+    {
+        clsNoteProps note = program.NoteTemplate;
+        note.Data = text;
+        note.TitleBarTitle = text.left(10);
+        return note;
+    }
+    /// The password is "right".
+    clsNoteProps protectedRecord(const QString &text, bool readOnly, bool openClose) const
+    {
+        clsNoteProps note = record(text);
+        note.PwdOn = true;
+        note.Pwd = QStringLiteral("right");
+        note.PwdReadonlyOn = readOnly;
+        note.PwdOpenCloseOn = openClose;
+        return note;
+    }
+    /// With an alarm a minute ahead that plays a sound.
+    clsNoteProps alarmed(clsNoteProps note) const
+    {
+        const QDateTime moment = test.clock.now().addSecs(60);
+        note.AlarmOn = note.SoundFileOn = true;
+        note.SoundFile = soundFile();
+        modAlarm::setAlarmDate(note, moment.date());
+        modAlarm::setAlarmTime(note, moment.time());
+        return note;
+    }
     frmNote *create(const clsNoteProps &record, NoteCreateMode mode = NoteCreateMode::New)
     {
         return at(modCreateNote::CreateNote(program, record, Home::Desktop, mode));
     }
     frmNote *create(const QString &text)
     {
-        clsNoteProps record = program.NoteTemplate;
-        record.Data = text;
-        return create(record);
+        clsNoteProps note = program.NoteTemplate;
+        note.Data = text;
+        return create(note);
     }
     frmNote *at(qint32 tag) const { return dynamic_cast<frmNote *>(program.forms.note(tag)); }
 
-    template <class Control> static Control &control(const QWidget &note, const char *name)
-    {
-        auto *found = note.findChild<Control *>(QLatin1String(name));
-        if (found == nullptr)
-            qFatal("There is no %s", name);
-        return *found;
-    }
     /// Opens the menu of the picture, or with false that of the text, and chooses the entry.
     static void choose(frmNote &note, const char *entry, bool ofPicture = true)
     {
@@ -67,33 +80,56 @@ public:
     static void openMenu(frmNote &note, bool ofPicture = true)
     {
         if (ofPicture)
-            QTest::mouseClick(&control<QWidget>(note, "imgMenu"), Qt::LeftButton);
+            press(note, "imgMenu");
         else
             QTest::mouseClick(&control<QWidget>(note, "lblDisplay"), Qt::RightButton);
+    }
+    /// A menu as it is read: "-" a separator, "+" checked, "(...)" disabled, "[...]" what a submenu holds.
+    static QString described(const QMenu &menu)
+    {
+        QStringList entries;
+        for (const QAction *action : menu.actions()) {
+            QString entry = action->isSeparator() ? QStringLiteral("-") : action->text();
+            if (action->isChecked())
+                entry += u'+';
+            if (!action->isEnabled())
+                entry = u'(' + entry + u')';
+            if (action->menu() != nullptr)
+                entry += u'[' + described(*action->menu()) + u']';
+            entries.append(entry);
+        }
+        return entries.join(u' ');
     }
     /// Clicks the text and returns the text box.
     static QPlainTextEdit &edit(frmNote &note)
     {
-        QTest::mouseClick(&control<QWidget>(note, "lblDisplay"), Qt::LeftButton);
+        press(note, "lblDisplay");
         return control<QPlainTextEdit>(note, "txtText");
     }
-    static void deleteUnloaded() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-    /// The note as the data file has it.
-    std::vector<clsNoteProps> stored() const
+    static void roll(frmNote &note) { QTest::mouseDClick(&control<QWidget>(note, "lblTitle"), Qt::LeftButton); }
+    static bool isLocked(const QWidget &window)
     {
-        DataFileState state;
-        state.paths = home.paths;
-        std::vector<clsNoteProps> notes;
-        const auto take = [&notes](clsNoteProps &&record) {
-            notes.push_back(std::move(record));
-            return static_cast<qint32>(notes.size());
-        };
-        modFileIO::LoadDataFile(state, {}, 1000, take, {}, {}, QDateTime::currentDateTime());
-        return notes;
+        const auto *overlay = window.findChild<QWidget *>(QStringLiteral("fraPassword"));
+        return overlay != nullptr && overlay->isVisibleTo(&window);
     }
-
-    TestHome home;
-    TestProgram test;
-    Program &program;
+    /// Nothing that the window shows or tells holds the text.
+    static bool isUnseen(const QWidget &window, const QString &text)
+    {
+        for (const QObject *part : window.findChildren<QObject *>())
+            for (const char *property :
+                 {"text", "plainText", "toolTip", "windowTitle", "accessibleName", "accessibleDescription"})
+                if (part->property(property).toString().contains(text))
+                    return false;
+        return true;
+    }
+    /// Gives the password in the prompt that opens next, or cancels where it is empty, after what goes on behind it.
+    static void answerPassword(
+        const QString &typed, const std::function<void()> &meanwhile = [] {})
+    {
+        answerDialog(QStringLiteral("frmEnterPwd"), [typed, meanwhile](QDialog &prompt) {
+            meanwhile();
+            control<QLineEdit>(prompt, "txtPwd").setText(typed);
+            press(prompt, typed.isEmpty() ? "CancelButton" : "OKButton");
+        });
+    }
 };

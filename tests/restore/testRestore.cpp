@@ -8,7 +8,7 @@
 #include "restore/frmRestore.h"
 #include "restore/keptNotes.h"
 #include "restore/restoring.h"
-#include "support/answerDialog.h"
+#include "support/compareRow.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -20,6 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+using Notes = std::vector<clsNoteProps>;
 
 clsNoteProps note(const QString &date, const QString &title, const QString &text)
 {
@@ -40,7 +42,7 @@ clsNoteProps locked(clsNoteProps record, const QString &password)
 /// A program with notes, and dated copies beside them.
 struct Fixture : NoteFixture
 {
-    void addCopy(const QString &day, const std::vector<clsNoteProps> &notes)
+    void addCopy(const QString &day, const Notes &notes)
     {
         DataImage image;
         for (const clsNoteProps &record : notes)
@@ -87,17 +89,16 @@ void choose(const QWidget &dialog, int row)
     model.setData(model.index(row, 0), Qt::Checked, Qt::CheckStateRole);
 }
 
+void restoreAll(QDialog &dialog)
+{
+    QVERIFY(!control<QPushButton>(dialog, "cmdOK").isEnabled());
+    press(dialog, "cmdChooseAll");
+    press(dialog, "cmdOK");
+}
+
 QString preview(const QWidget &dialog)
 {
     return control<QPlainTextEdit>(dialog, "txtPreview").toPlainText();
-}
-
-void answerPassword(const QString &password)
-{
-    answerDialog(u"frmEnterPwd"_s, [password](QDialog &dialog) {
-        control<QLineEdit>(dialog, "txtPwd").setText(password);
-        press(dialog, "OKButton");
-    });
 }
 
 } // namespace
@@ -107,226 +108,187 @@ class testRestore final : public QObject
     Q_OBJECT
 
 private slots:
-    void standings_data();
-    void standings();
-    void whatDiffersIsShown();
-    void comesBackAsNew();
-    void passwords_data();
-    void passwords();
-    void theLimit();
-    void hostileCopies_data();
-    void hostileCopies();
-    void noCopies();
-    void offeredAfterDamage();
-};
+    /// A letter a note, in the order of the texts.
+    void standings()
+    {
+        const auto row = [](const char *name, const Notes &kept, const Notes &present, const QByteArray &standings) {
+            std::vector<PresentNote> now;
+            for (const clsNoteProps &record : present)
+                now.push_back({&record, false});
+            auto found = keptNotes::compared(kept, now);
+            const auto inOrder = [](const KeptNote &x, const KeptNote &y) { return x.standing < y.standing; };
+            compareRow(name, std::is_sorted(found.begin(), found.end(), inOrder), true);
+            std::sort(found.begin(), found.end(),
+                      [](const KeptNote &x, const KeptNote &y) { return x.note.Data < y.note.Data; });
+            QByteArray letters;
+            for (const KeptNote &each : found)
+                letters += "GCS"[static_cast<int>(each.standing)];
+            compareRow(name, letters, standings);
+        };
+        const clsNoteProps a = note(u"1 May"_s, u"A"_s, u"a"_s);
+        row("nothing there", {a}, {}, "G");
+        row("the same", {a}, {a}, "S");
+        row("brought back under a new date", {a}, {note(u"2 May"_s, u"A"_s, u"a"_s)}, "S");
+        row("another text", {a}, {note(u"1 May"_s, u"A"_s, u"b"_s)}, "C");
+        row("another title", {a}, {note(u"1 May"_s, u"B"_s, u"a"_s)}, "C");
+        row("both", {a}, {note(u"1 May"_s, u"B"_s, u"b"_s)}, "C");
+        row("only the title is like it", {a}, {note(u"2 May"_s, u"A"_s, u"b"_s)}, "G");
+        row("one for two", {a, note(u"1 May"_s, u"A"_s, u"a2"_s)}, {a}, "SG");
+        row("made in the same minute", {a, note(u"1 May"_s, u"B"_s, u"b"_s)},
+            {note(u"1 May"_s, u"B"_s, u"b2"_s), note(u"1 May"_s, u"A"_s, u"a"_s)}, "SC");
+    }
 
-void testRestore::standings_data()
-{
-    using Notes = std::vector<clsNoteProps>;
-    QTest::addColumn<Notes>("kept");
-    QTest::addColumn<Notes>("present");
-    QTest::addColumn<QString>("standings"); // A letter a note, in the order of the texts.
-    const auto row = [](const char *name, const Notes &kept, const Notes &present, const char *standings) {
-        QTest::newRow(name) << kept << present << QString::fromLatin1(standings);
-    };
-    const clsNoteProps a = note(u"1 May"_s, u"A"_s, u"a"_s);
-    row("nothing there", {a}, {}, "G");
-    row("the same", {a}, {a}, "S");
-    row("brought back under a new date", {a}, {note(u"2 May"_s, u"A"_s, u"a"_s)}, "S");
-    row("another text", {a}, {note(u"1 May"_s, u"A"_s, u"b"_s)}, "C");
-    row("another title", {a}, {note(u"1 May"_s, u"B"_s, u"a"_s)}, "C");
-    row("both", {a}, {note(u"1 May"_s, u"B"_s, u"b"_s)}, "C");
-    row("only the title is like it", {a}, {note(u"2 May"_s, u"A"_s, u"b"_s)}, "G");
-    row("one for two", {a, note(u"1 May"_s, u"A"_s, u"a2"_s)}, {a}, "SG");
-    row("made in the same minute", {a, note(u"1 May"_s, u"B"_s, u"b"_s)},
-        {note(u"1 May"_s, u"B"_s, u"b2"_s), note(u"1 May"_s, u"A"_s, u"a"_s)}, "SC");
-}
+    /// The newest copy with something to bring back is shown, of it what differs, and what the words of the filter are
+    /// in.
+    void whatDiffersIsShown()
+    {
+        Fixture f;
+        const clsNoteProps kept = note(u"1"_s, u"Kept"_s, u"same"_s);
+        f.create(kept, NoteCreateMode::Load);
+        f.create(note(u"2"_s, u"Plan"_s, u"new"_s), NoteCreateMode::Load);
+        f.addCopy(u"2026-02-28"_s, {kept});
+        f.addCopy(u"2026-02-27"_s,
+                  {kept, note(u"2"_s, u"Plan"_s, u"\r\n old\r\nsecond"_s), note(u"3"_s, {}, u"Milk"_s)});
+        f.open([](QDialog &dialog) {
+            QListWidget &copies = control<QListWidget>(dialog, "lstCopies");
+            QCOMPARE(copies.currentRow(), 1);
+            QTRY_COMPARE(copies.item(0)->text().section(u'\n', 1), u"as today"_s);
+            QCOMPARE(copies.item(1)->text().section(u'\n', 1), u"1 gone, 1 changed"_s);
+            QCOMPARE(rows(dialog), QStringList({u"(no title)|Milk|gone"_s, u"Plan|old|changed"_s}));
+            QCOMPARE(preview(dialog), u"Milk"_s);
+            control<QLineEdit>(dialog, "txtFilter").setText(u"SECOND"_s);
+            QCOMPARE(rows(dialog), QStringList({u"Plan|old|changed"_s}));
+            control<QLineEdit>(dialog, "txtFilter").clear();
+            control<QCheckBox>(dialog, "chkAll").setChecked(true);
+            QCOMPARE(rows(dialog).last(), u"Kept|same|the same"_s);
+            dialog.reject();
+        });
+        QCOMPARE(f.texts(), QStringList({u"same"_s, u"new"_s}));
+    }
 
-void testRestore::standings()
-{
-    QFETCH(std::vector<clsNoteProps>, kept);
-    QFETCH(std::vector<clsNoteProps>, present);
-    QFETCH(QString, standings);
-    std::vector<PresentNote> now;
-    for (const clsNoteProps &record : present)
-        now.push_back({&record, false});
-    auto found = keptNotes::compared(kept, now);
-    QVERIFY(std::is_sorted(found.begin(), found.end(),
-                           [](const KeptNote &x, const KeptNote &y) { return x.standing < y.standing; }));
-    std::sort(found.begin(), found.end(),
-              [](const KeptNote &x, const KeptNote &y) { return x.note.Data < y.note.Data; });
-    QString letters;
-    for (const KeptNote &each : found)
-        letters += u"GCS"_s[static_cast<int>(each.standing)];
-    QCOMPARE(letters, standings);
-}
-
-/// The newest copy with something to bring back is shown, of it what differs, and what the words of the filter are in.
-void testRestore::whatDiffersIsShown()
-{
-    Fixture f;
-    const clsNoteProps kept = note(u"1"_s, u"Kept"_s, u"same"_s);
-    f.create(kept, NoteCreateMode::Load);
-    f.create(note(u"2"_s, u"Plan"_s, u"new"_s), NoteCreateMode::Load);
-    f.addCopy(u"2026-02-28"_s, {kept});
-    f.addCopy(u"2026-02-27"_s, {kept, note(u"2"_s, u"Plan"_s, u"\r\n old\r\nsecond"_s), note(u"3"_s, {}, u"Milk"_s)});
-    f.open([](QDialog &dialog) {
-        QListWidget &copies = control<QListWidget>(dialog, "lstCopies");
-        QCOMPARE(copies.currentRow(), 1);
-        QTRY_COMPARE(copies.item(0)->text().section(u'\n', 1), u"as today"_s);
-        QCOMPARE(copies.item(1)->text().section(u'\n', 1), u"1 gone, 1 changed"_s);
-        QCOMPARE(rows(dialog), QStringList({u"(no title)|Milk|gone"_s, u"Plan|old|changed"_s}));
-        QCOMPARE(preview(dialog), u"Milk"_s);
-        control<QLineEdit>(dialog, "txtFilter").setText(u"SECOND"_s);
-        QCOMPARE(rows(dialog), QStringList({u"Plan|old|changed"_s}));
-        control<QLineEdit>(dialog, "txtFilter").clear();
-        control<QCheckBox>(dialog, "chkAll").setChecked(true);
-        QCOMPARE(rows(dialog).last(), u"Kept|same|the same"_s);
-        dialog.reject();
-    });
-    QCOMPARE(f.texts(), QStringList({u"same"_s, u"new"_s}));
-}
-
-/// What is there stays, also the file as it was; what rang long ago does not ring again; and all is on the disk.
-void testRestore::comesBackAsNew()
-{
-    Fixture f;
-    clsNoteProps present = f.program.NoteTemplate;
-    present.DateCreated = u"1"_s;
-    present.TitleBarTitle = u"Plan"_s;
-    present.Data = u"new"_s;
-    present.FrmLeft = present.FrmTop = 3000;
-    f.create(present, NoteCreateMode::Load);
-    clsNoteProps earlier = present;
-    earlier.Data = u"old"_s;
-    earlier.AlarmOn = earlier.NoteStackOn = true;
-    earlier.AlarmDateYear = 2025;
-    earlier.AlarmDateMonth = earlier.AlarmDateDay = 1;
-    f.addCopy(u"2026-02-28"_s, {earlier});
-    f.open([](QDialog &dialog) {
-        QVERIFY(!control<QPushButton>(dialog, "cmdOK").isEnabled());
-        press(dialog, "cmdChooseAll");
-        press(dialog, "cmdOK");
-    });
-    QCOMPARE(f.texts(), QStringList({u"new"_s, u"old"_s}));
-    const clsNoteProps &back = *f.program.forms.recordOf(2);
-    QVERIFY(f.at(2)->isVisible() && !back.AlarmOn && !back.NoteStackOn);
-    QCOMPARE(back.DateCreated, u"1"_s);
-    QVERIFY(f.at(2)->pos() != f.at(1)->pos());
-    QCOMPARE(datedCopies::list(f.home.paths).size(), 2U);
-    QCOMPARE(f.stored().size(), 2U);
-}
-
-void testRestore::passwords_data()
-{
-    QTest::addColumn<clsNoteProps>("kept");
-    QTest::addColumn<clsNoteProps>("present"); // Without a date: there is none.
-    QTest::addColumn<QString>("password");     // That shows it.
-    const clsNoteProps open = note(u"1"_s, u"Diary"_s, u"secret"_s);
-    const clsNoteProps later = note(u"1"_s, u"Diary"_s, u"more"_s);
-    QTest::newRow("locked in the copy") << locked(open, u"then"_s) << clsNoteProps() << u"then"_s;
-    QTest::newRow("locked since") << open << locked(later, u"now"_s) << u"now"_s;
-    QTest::newRow("locked then and now") << locked(open, u"then"_s) << locked(later, u"now"_s) << u"then"_s;
-}
-
-/// Nothing of a locked note is told, neither in the table nor by the filter; it comes back locked, or its password is
-/// asked for.
-void testRestore::passwords()
-{
-    QFETCH(clsNoteProps, kept);
-    QFETCH(clsNoteProps, present);
-    QFETCH(QString, password);
-    Fixture f;
-    if (!present.DateCreated.isEmpty())
+    /// What is there stays, also the file as it was; what rang long ago does not ring again; and all is on the disk.
+    void comesBackAsNew()
+    {
+        Fixture f;
+        clsNoteProps present = f.record(u"new"_s);
+        present.DateCreated = u"1"_s;
+        present.FrmLeft = present.FrmTop = 3000;
         f.create(present, NoteCreateMode::Load);
-    f.addCopy(u"2026-02-28"_s, {kept});
-    f.test.prompts.expect(Prompts::Answer::Ok);
-    f.open([&](QDialog &dialog) {
-        QVERIFY(rows(dialog).value(0).startsWith(u"Diary|(locked)"));
-        control<QLineEdit>(dialog, "txtFilter").setText(u"secret"_s);
-        QVERIFY(rows(dialog).isEmpty());
-        control<QLineEdit>(dialog, "txtFilter").clear();
-        answerPassword(u"wrong"_s);
-        press(dialog, "cmdUnlock");
-        QCOMPARE(preview(dialog), QString());
-        answerPassword(password);
-        press(dialog, "cmdUnlock");
-        QCOMPARE(preview(dialog), u"secret"_s);
-        dialog.reject();
-    });
-    QVERIFY(f.test.prompts.isDone());
-    f.open([&](QDialog &dialog) {
-        choose(dialog, 0);
-        if (!kept.PwdOn)
-            answerPassword(password);
-        press(dialog, "cmdOK");
-    });
-    frmNote *back = f.at(f.program.NoteCounter);
-    QVERIFY(f.texts().contains(u"secret"_s) && back != nullptr);
-    QCOMPARE(back->chosen()->locked, kept.PwdOn);
-}
+        clsNoteProps earlier = present;
+        earlier.Data = u"old"_s;
+        earlier.AlarmOn = earlier.NoteStackOn = true;
+        modAlarm::setAlarmDate(earlier, QDate(2025, 1, 1));
+        f.addCopy(u"2026-02-28"_s, {earlier});
+        f.open(restoreAll);
+        QCOMPARE(f.texts(), QStringList({u"new"_s, u"old"_s}));
+        const clsNoteProps &back = *f.program.forms.recordOf(2);
+        QVERIFY(f.at(2)->isVisible() && !back.AlarmOn && !back.NoteStackOn);
+        QCOMPARE(back.DateCreated, u"1"_s);
+        QVERIFY(f.at(2)->pos() != f.at(1)->pos());
+        QCOMPARE(datedCopies::list(f.home.paths).size(), 2U);
+        QCOMPARE(f.stored().size(), 2U);
+    }
 
-void testRestore::theLimit()
-{
-    Fixture f;
-    f.program.NoteCounter = modCreateNote::MostNotes - 1;
-    f.addCopy(u"2026-02-28"_s, {note(u"1"_s, u"A"_s, u"a"_s), note(u"2"_s, u"B"_s, u"b"_s)});
-    f.test.prompts.expect(Prompts::Answer::Ok);
-    f.open([](QDialog &dialog) {
-        press(dialog, "cmdChooseAll");
-        press(dialog, "cmdOK");
-    });
-    QCOMPARE(f.test.prompts.last.text, u"You cannot have more than 100 Quillets.\nQuillet not created."_s);
-    QCOMPARE(f.texts(), QStringList(u"a"_s));
-    QCOMPARE(f.stored().size(), 1U);
-}
+    void passwords_data()
+    {
+        const Rows<clsNoteProps, clsNoteProps, QString> row; // kept, present, password
+        const clsNoteProps open = note(u"1"_s, u"Diary"_s, u"secret"_s);
+        const clsNoteProps later = note(u"1"_s, u"Diary"_s, u"more"_s);
+        row("locked in the copy", locked(open, u"then"_s), {}, u"then"_s);
+        row("locked since", open, locked(later, u"now"_s), u"now"_s);
+        row("locked then and now", locked(open, u"then"_s), locked(later, u"now"_s), u"then"_s);
+    }
 
-void testRestore::hostileCopies_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    for (const QString &name : QDir(QStringLiteral(TEST_DATA "/damaged")).entryList(QDir::Files))
-        QTest::newRow(qPrintable(name)) << TestHome::contents(QStringLiteral(TEST_DATA "/damaged/") + name);
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("noise") << QByteArray(5000, '\xFF');
-}
+    /// Nothing of a locked note is told, neither in the table nor by the filter; it comes back locked, or its password
+    /// is asked for.
+    void passwords()
+    {
+        const auto [kept, present, password] = fetchRow<clsNoteProps, clsNoteProps, QString>();
+        Fixture f;
+        if (!present.DateCreated.isEmpty())
+            f.create(present, NoteCreateMode::Load);
+        f.addCopy(u"2026-02-28"_s, {kept});
+        f.test.prompts.expect(Prompts::Answer::Ok);
+        f.open([&](QDialog &dialog) {
+            QVERIFY(rows(dialog).value(0).startsWith(u"Diary|(locked)"));
+            control<QLineEdit>(dialog, "txtFilter").setText(u"secret"_s);
+            QVERIFY(rows(dialog).isEmpty());
+            control<QLineEdit>(dialog, "txtFilter").clear();
+            NoteFixture::answerPassword(u"wrong"_s);
+            press(dialog, "cmdUnlock");
+            QCOMPARE(preview(dialog), QString());
+            NoteFixture::answerPassword(password);
+            press(dialog, "cmdUnlock");
+            QCOMPARE(preview(dialog), u"secret"_s);
+            dialog.reject();
+        });
+        QVERIFY(f.test.prompts.isDone());
+        f.open([&](QDialog &dialog) {
+            choose(dialog, 0);
+            if (!kept.PwdOn)
+                NoteFixture::answerPassword(password);
+            press(dialog, "cmdOK");
+        });
+        frmNote *back = f.at(f.program.NoteCounter);
+        QVERIFY(f.texts().contains(u"secret"_s) && back != nullptr);
+        QCOMPARE(back->chosen()->locked, kept.PwdOn);
+    }
 
-/// What can be read is shown, and that something cannot is told.
-void testRestore::hostileCopies()
-{
-    QFETCH(QByteArray, bytes);
-    Fixture f;
-    f.addCopy(u"2026-02-28"_s, bytes);
-    const DataSurvey survey = surveyDataFile(bytes, {}, 1000);
-    f.open([&](QDialog &dialog) {
-        QCOMPARE(rows(dialog).size(), static_cast<qsizetype>(survey.notes.size()));
-        QCOMPARE(control<QLabel>(dialog, "lblStatus").text().startsWith(u"This copy is damaged."), survey.isDamaged);
-        dialog.reject();
-    });
-}
+    void theLimit()
+    {
+        Fixture f;
+        f.program.NoteCounter = modCreateNote::MostNotes - 1;
+        f.addCopy(u"2026-02-28"_s, {note(u"1"_s, u"A"_s, u"a"_s), note(u"2"_s, u"B"_s, u"b"_s)});
+        QCOMPARE(f.boxOf([&f] { f.open(restoreAll); }).text,
+                 u"You cannot have more than 100 Quillets.\nQuillet not created."_s);
+        QCOMPARE(f.texts(), QStringList(u"a"_s));
+        QCOMPARE(f.stored().size(), 1U);
+    }
 
-void testRestore::noCopies()
-{
-    Fixture f;
-    f.open([](QDialog &dialog) {
-        QVERIFY(control<QLabel>(dialog, "lblStatus").text().startsWith(u"There are no copies yet."));
-        QVERIFY(!control<QPushButton>(dialog, "cmdChooseAll").isEnabled());
-        dialog.reject();
-    });
-    restoring::offerRestore(f.program, QRect(100, 100, 300, 200));
-    QVERIFY(f.program.forms.find(formNames::QuietLine) == nullptr);
-}
+    void hostileCopies_data()
+    {
+        const Rows<QByteArray> row; // bytes
+        for (const QString &name : QDir(QStringLiteral(TEST_DATA "/damaged")).entryList(QDir::Files))
+            row(name, TestHome::contents(QStringLiteral(TEST_DATA "/damaged/") + name));
+        row("nothing", {});
+        row("noise", QByteArray(5000, '\xFF'));
+    }
 
-void testRestore::offeredAfterDamage()
-{
-    Fixture f;
-    f.addCopy(u"2026-02-28"_s, {note(u"1"_s, u"A"_s, u"a"_s)});
-    restoring::offerRestore(f.program, QRect(100, 100, 300, 200));
-    auto *line = dynamic_cast<QuietLine *>(f.program.forms.find(formNames::QuietLine));
-    QVERIFY(line != nullptr && line->isVisible());
-    answerDialog(frmRestore::Name.toString(), [](QDialog &dialog) { dialog.reject(); });
-    press(*line, "cmdAction");
-    QVERIFY(f.program.forms.find(formNames::QuietLine) == nullptr);
-}
+    /// What can be read is shown, and that something cannot is told.
+    void hostileCopies()
+    {
+        const auto [bytes] = fetchRow<QByteArray>();
+        Fixture f;
+        f.addCopy(u"2026-02-28"_s, bytes);
+        const DataSurvey survey = surveyDataFile(bytes, {}, 1000);
+        f.open([&](QDialog &dialog) {
+            QCOMPARE(rows(dialog).size(), static_cast<qsizetype>(survey.notes.size()));
+            QCOMPARE(control<QLabel>(dialog, "lblStatus").text().startsWith(u"This copy is damaged."),
+                     survey.isDamaged);
+            dialog.reject();
+        });
+    }
+
+    void offeredWhereThereAreCopies()
+    {
+        Fixture f;
+        const QRect place(100, 100, 300, 200);
+        const auto line = [&f] { return dynamic_cast<QuietLine *>(f.program.forms.find(formNames::QuietLine)); };
+        f.open([](QDialog &dialog) {
+            QVERIFY(control<QLabel>(dialog, "lblStatus").text().startsWith(u"There are no copies yet."));
+            QVERIFY(!control<QPushButton>(dialog, "cmdChooseAll").isEnabled());
+            dialog.reject();
+        });
+        restoring::offerRestore(f.program, place);
+        QVERIFY(line() == nullptr);
+        f.addCopy(u"2026-02-28"_s, {note(u"1"_s, u"A"_s, u"a"_s)});
+        restoring::offerRestore(f.program, place);
+        QVERIFY(line() != nullptr && line()->isVisible());
+        answerDialog(frmRestore::Name.toString(), [](QDialog &dialog) { dialog.reject(); });
+        press(*line(), "cmdAction");
+        QVERIFY(line() == nullptr);
+    }
+};
 
 QTEST_MAIN(testRestore)
 #include "testRestore.moc"

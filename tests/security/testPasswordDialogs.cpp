@@ -5,9 +5,7 @@
 #include "security/frmNewPwd.h"
 #include "security/frmPwdSettings.h"
 #include "security/secrets.h"
-#include "support/TestProgram.h"
-#include "support/answerDialog.h"
-#include "support/failOnWarnings.h"
+#include "support/ProgramFixture.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -18,45 +16,55 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QDateTime Now(QDate(2026, 3, 1), QTime(12, 0));
-
-void enter(const QWidget &dialog, const char *name, const QString &text)
+/// One password, or a new one twice and where it is asked for the one until now.
+void enter(const QDialog &dialog, const QStringList &typed)
 {
-    control<QLineEdit>(dialog, name).setText(text);
+    const QStringList boxes =
+        typed.size() == 1 ? QStringList{u"txtPwd"_s} : QStringList{u"txtPwd1"_s, u"txtPwd2"_s, u"txtPwd3"_s};
+    for (qsizetype i = 0; i < typed.size(); ++i)
+        control<QLineEdit>(dialog, qPrintable(boxes[i])).setText(typed[i]);
 }
 
-void enterBoth(const QDialog &dialog, const QString &first, const QString &second)
+/// In the dialog that opens next.
+void answer(const QString &name, const QStringList &typed, const QByteArray &button = "OKButton")
 {
-    enter(dialog, "txtPwd1", first);
-    enter(dialog, "txtPwd2", second);
-}
-
-/// Gives a new password, or cancels where it is empty.
-void answerNewPassword(const QString &password)
-{
-    answerDialog(u"frmNewPwd"_s, [password](QDialog &dialog) {
-        enterBoth(dialog, password, password);
-        press(dialog, password.isEmpty() ? "CancelButton" : "OKButton");
-    });
-}
-
-void answerPassword(const QString &password, const char *button)
-{
-    answerDialog(u"frmEnterPwd"_s, [password, button](QDialog &dialog) {
-        QCOMPARE(control<QLabel>(dialog, "lblDesc").text(), u"Disabling password protection."_s);
-        enter(dialog, "txtPwd", password);
-        press(dialog, button);
+    answerDialog(name, [typed, button](QDialog &dialog) {
+        enter(dialog, typed);
+        press(dialog, button.constData());
     });
 }
 
 clsNoteProps protectedNote()
 {
     clsNoteProps note;
-    note.PwdOn = true;
+    note.PwdOn = note.PwdReadonlyOn = true;
     note.Pwd = u"old"_s;
-    note.PwdReadonlyOn = true;
     return note;
 }
+
+/// The password settings of a note.
+struct Settings final : ProgramFixture
+{
+    explicit Settings(const clsNoteProps &given) : note(given) { reopen(); }
+    void reopen()
+    {
+        dialog.Initialize(note);
+        dialog.show();
+    }
+    Qt::CheckState state(const char *box) const { return control<QCheckBox>(dialog, box).checkState(); }
+    bool isRefused(const char *pressed, const Message &told)
+    {
+        return boxOf([this, pressed] { press(dialog, pressed); }) == told;
+    }
+    bool accept()
+    {
+        press(dialog, "OKButton");
+        return dialog.PwdResult(note);
+    }
+
+    clsNoteProps note;
+    frmPwdSettings dialog{program, nullptr};
+};
 
 } // namespace
 
@@ -65,227 +73,164 @@ class testPasswordDialogs final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void newPassword_data()
+    {
+        const Rows<QString, QString, QString> row; // first, second, message
+        const QString differ = u"Sorry.  These passwords do not match.  Please try again."_s;
+        row("equal", u"a b"_s, u"a b"_s, {});
+        row("letter case", u"abc"_s, u"abC"_s, differ);
+        row("composed and not", u"\u00E9"_s, u"e\u0301"_s, differ);
+        row("second empty", u"abc"_s, {}, differ);
+        row("empty", {}, {}, u"Sorry.  You must enter a non-zero length password."_s);
+    }
 
-    void newPassword_data();
-    void newPassword();
-    void currentPasswordIsVerified();
-    void cancelIsNeverRight();
-    void everyBoxIsMasked();
-    void wipingKeepsWhatOthersHold();
-    void switchingOn();
-    void switchingOff_data();
-    void switchingOff();
-    void changing();
-    void cancelDropsAll();
+    void newPassword()
+    {
+        const auto [first, second, message] = fetchRow<QString, QString, QString>();
+        ProgramFixture f;
+        frmNewPwd dialog(f.program, nullptr);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        enter(dialog, {first, second});
+        if (!message.isEmpty())
+            f.test.prompts.expect(Prompts::Answer::Ok);
+        press(dialog, "OKButton");
+        QCOMPARE(dialog.isVisible(), !message.isEmpty());
+        QCOMPARE(dialog.requestPassword(), message.isEmpty() ? first : QString());
+        QVERIFY(f.test.prompts.last == Message{.text = message});
+        const auto &box = control<QLineEdit>(dialog, "txtPwd1");
+        QVERIFY(message.isEmpty() ||
+                (box.hasFocus() && (box.text() + control<QLineEdit>(dialog, "txtPwd2").text()).isEmpty()));
+    }
 
-private:
-    Program &program() { return m_test->program; }
-    QDialog &open(const clsNoteProps &note);
-    /// Presses what is refused.
-    void pressInVain(const char *name, const Message &told);
+    void currentPasswordIsVerified()
+    {
+        ProgramFixture f;
+        frmChangePwd dialog(f.program, nullptr);
+        dialog.Initialize(u"old"_s);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        enter(dialog, {u"new"_s, u"new"_s, u"Old"_s});
+        QCOMPARE(f.boxOf([&dialog] { press(dialog, "OKButton"); }).text,
+                 u"Sorry.  The current password is not correct.  Please try again."_s);
+        auto &current = control<QLineEdit>(dialog, "txtPwd3");
+        QVERIFY(dialog.isVisible() && current.text().isEmpty() && current.hasFocus());
+        QVERIFY(dialog.requestPassword().isEmpty());
+        current.setText(u"old"_s);
+        press(dialog, "OKButton");
+        QCOMPARE(dialog.requestPassword(), u"new"_s);
+    }
 
-    std::unique_ptr<TestProgram> m_test;
-    std::unique_ptr<frmPwdSettings> m_settings;
+    void cancelIsNeverRight()
+    {
+        ProgramFixture f;
+        frmEnterPwd dialog(f.program, nullptr);
+        dialog.show();
+        press(dialog, "OKButton");
+        QVERIFY(dialog.passOn({}) && !dialog.passOn(u"x"_s));
+        dialog.show();
+        enter(dialog, {u"x"_s});
+        press(dialog, "CancelButton");
+        QVERIFY(!dialog.passOn({}) && !dialog.passOn(u"x"_s));
+    }
+
+    void everyBoxIsMasked()
+    {
+        ProgramFixture f;
+        const frmNewPwd first(f.program, nullptr);
+        const frmChangePwd second(f.program, nullptr);
+        const frmEnterPwd third(f.program, nullptr);
+        int boxes = 0;
+        for (const QDialog *dialog : std::initializer_list<const QDialog *>{&first, &second, &third})
+            for (const QLineEdit *box : dialog->findChildren<QLineEdit *>()) {
+                QCOMPARE(box->echoMode(), QLineEdit::Password);
+                ++boxes;
+            }
+        QCOMPARE(boxes, 6);
+    }
+
+    void wipingKeepsWhatOthersHold()
+    {
+        QString password = u"secret"_s;
+        const QString kept = password;
+        secrets::wipe(password);
+        QVERIFY(password.isEmpty() && kept == u"secret");
+    }
+
+    void switchingOn()
+    {
+        clsNoteProps note;
+        note.PwdOpenCloseOn = true;
+        Settings s(note);
+        answer(u"frmNewPwd"_s, {}, "CancelButton");
+        QVERIFY(s.isRefused("chkPwd", {u"Enabling password protection failed."_s, u"Enabling failed"_s}));
+        QCOMPARE(s.state("chkPwd"), Qt::Unchecked);
+        QCOMPARE(s.state("chkPwd1"), Qt::PartiallyChecked);
+        QVERIFY(!control<QWidget>(s.dialog, "cmdChangePwd").isEnabled());
+        answer(u"frmNewPwd"_s, {u"new"_s, u"new"_s});
+        press(s.dialog, "chkPwd");
+        QCOMPARE(s.state("chkPwd1"), Qt::Checked);
+        press(s.dialog, "chkPwd2");
+        QVERIFY(s.accept() && s.note.SaveTag == 1);
+        QVERIFY(s.note.PwdOn && s.note.Pwd == u"new" && s.note.PwdOpenCloseOn && s.note.PwdReadonlyOn);
+    }
+
+    void switchingOnAndOff()
+    {
+        Settings s(clsNoteProps{});
+        answer(u"frmNewPwd"_s, {u"new"_s, u"new"_s});
+        press(s.dialog, "chkPwd");
+        press(s.dialog, "chkPwd"); // The note never had it: nothing is asked.
+        QVERIFY(s.accept() && !s.note.PwdOn && s.note.Pwd.isEmpty());
+    }
+
+    void switchingOff_data()
+    {
+        const Rows<QString, QByteArray, bool> row; // typed, button, off
+        row("right", u"old"_s, "OKButton", true);
+        row("wrong", u"OLD"_s, "OKButton", false);
+        row("cancelled", u"old"_s, "CancelButton", false);
+    }
+
+    void switchingOff()
+    {
+        const auto [typed, button, off] = fetchRow<QString, QByteArray, bool>();
+        Settings s(protectedNote());
+        answerDialog(u"frmEnterPwd"_s, [&text = typed, &pressed = button](QDialog &prompt) {
+            QCOMPARE(control<QLabel>(prompt, "lblDesc").text(), u"Disabling password protection."_s);
+            enter(prompt, {text});
+            press(prompt, pressed.constData());
+        });
+        if (off)
+            press(s.dialog, "chkPwd");
+        else
+            QVERIFY(s.isRefused("chkPwd", {u"Disabling password protection failed."_s, u"Disabling failed"_s}));
+        QCOMPARE(s.state("chkPwd") == Qt::Checked, !off);
+        QVERIFY(s.accept());
+        QCOMPARE(s.note.PwdOn, !off);
+        QCOMPARE(s.note.Pwd, off ? QString() : u"old"_s);
+    }
+
+    void changing()
+    {
+        Settings s(protectedNote());
+        answer(u"frmChangePwd"_s, {}, "CancelButton");
+        QVERIFY(s.isRefused("cmdChangePwd", {u"Password change failed. "_s, u"Change failed"_s}));
+        answer(u"frmChangePwd"_s, {u"new"_s, u"new"_s, u"old"_s});
+        press(s.dialog, "cmdChangePwd");
+        QVERIFY(s.accept() && s.note.Pwd == u"new" && s.note.PwdOn);
+    }
+
+    void cancelDropsAll()
+    {
+        Settings s(protectedNote());
+        press(s.dialog, "chkPwd1");
+        answer(u"frmEnterPwd"_s, {u"old"_s});
+        press(s.dialog, "chkPwd");
+        press(s.dialog, "CancelButton");
+        QVERIFY(!s.dialog.PwdResult(s.note) && s.note == protectedNote());
+    }
 };
-
-void testPasswordDialogs::init()
-{
-    failOnWarnings();
-    m_test = std::make_unique<TestProgram>(Now);
-    m_settings = std::make_unique<frmPwdSettings>(program(), nullptr);
-}
-
-void testPasswordDialogs::cleanup()
-{
-    m_settings.reset();
-    QVERIFY(m_test->prompts.isDone());
-}
-
-QDialog &testPasswordDialogs::open(const clsNoteProps &note)
-{
-    m_settings->Initialize(note);
-    m_settings->show();
-    return *m_settings;
-}
-
-void testPasswordDialogs::pressInVain(const char *name, const Message &told)
-{
-    m_test->prompts.expect(Prompts::Answer::Ok);
-    press(*m_settings, name);
-    QVERIFY(m_test->prompts.last == told);
-}
-
-void testPasswordDialogs::newPassword_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-    QTest::addColumn<QString>("message");
-    const QString differ = u"Sorry.  These passwords do not match.  Please try again."_s;
-    QTest::newRow("equal") << u"a b"_s << u"a b"_s << QString();
-    QTest::newRow("letter case") << u"abc"_s << u"abC"_s << differ;
-    QTest::newRow("composed and not") << u"\u00E9"_s << u"e\u0301"_s << differ;
-    QTest::newRow("second empty") << u"abc"_s << QString() << differ;
-    QTest::newRow("empty") << QString() << QString() << u"Sorry.  You must enter a non-zero length password."_s;
-}
-
-void testPasswordDialogs::newPassword()
-{
-    QFETCH(QString, first);
-    QFETCH(QString, second);
-    QFETCH(QString, message);
-    frmNewPwd dialog(program(), nullptr);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    enterBoth(dialog, first, second);
-    if (!message.isEmpty())
-        m_test->prompts.expect(Prompts::Answer::Ok);
-    press(dialog, "OKButton");
-    QCOMPARE(dialog.isVisible(), !message.isEmpty());
-    QCOMPARE(dialog.requestPassword(), message.isEmpty() ? first : QString());
-    if (message.isEmpty())
-        return;
-    QVERIFY(m_test->prompts.last == Message{.text = message});
-    QVERIFY(control<QLineEdit>(dialog, "txtPwd1").text().isEmpty() &&
-            control<QLineEdit>(dialog, "txtPwd2").text().isEmpty());
-    QVERIFY(control<QLineEdit>(dialog, "txtPwd1").hasFocus());
-}
-
-void testPasswordDialogs::currentPasswordIsVerified()
-{
-    frmChangePwd dialog(program(), nullptr);
-    dialog.Initialize(u"old"_s);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    enter(dialog, "txtPwd3", u"Old"_s);
-    enterBoth(dialog, u"new"_s, u"new"_s);
-    m_test->prompts.expect(Prompts::Answer::Ok);
-    press(dialog, "OKButton");
-    QCOMPARE(m_test->prompts.last.text, u"Sorry.  The current password is not correct.  Please try again."_s);
-    auto &current = control<QLineEdit>(dialog, "txtPwd3");
-    QVERIFY(dialog.isVisible() && current.text().isEmpty() && current.hasFocus() && dialog.requestPassword().isEmpty());
-    current.setText(u"old"_s);
-    press(dialog, "OKButton");
-    QCOMPARE(dialog.requestPassword(), u"new"_s);
-}
-
-void testPasswordDialogs::cancelIsNeverRight()
-{
-    frmEnterPwd dialog(program(), nullptr);
-    dialog.show();
-    press(dialog, "OKButton");
-    QVERIFY(dialog.passOn({}) && !dialog.passOn(u"x"_s));
-    dialog.show();
-    enter(dialog, "txtPwd", u"x"_s);
-    press(dialog, "CancelButton");
-    QVERIFY(!dialog.passOn({}) && !dialog.passOn(u"x"_s));
-}
-
-void testPasswordDialogs::everyBoxIsMasked()
-{
-    const frmNewPwd first(program(), nullptr);
-    const frmChangePwd second(program(), nullptr);
-    const frmEnterPwd third(program(), nullptr);
-    int boxes = 0;
-    for (const QDialog *dialog : std::initializer_list<const QDialog *>{&first, &second, &third})
-        for (const QLineEdit *box : dialog->findChildren<QLineEdit *>()) {
-            QCOMPARE(box->echoMode(), QLineEdit::Password);
-            ++boxes;
-        }
-    QCOMPARE(boxes, 6);
-}
-
-void testPasswordDialogs::wipingKeepsWhatOthersHold()
-{
-    QString password = u"secret"_s;
-    const QString kept = password;
-    secrets::wipe(password);
-    QVERIFY(password.isEmpty() && kept == u"secret");
-}
-
-void testPasswordDialogs::switchingOn()
-{
-    clsNoteProps note;
-    note.PwdOpenCloseOn = true;
-    const QDialog &dialog = open(note);
-    const auto stateOf = [&dialog](const char *box) { return control<QCheckBox>(dialog, box).checkState(); };
-    answerNewPassword({});
-    pressInVain("chkPwd", {u"Enabling password protection failed."_s, u"Enabling failed"_s});
-    QCOMPARE(stateOf("chkPwd"), Qt::Unchecked);
-    QCOMPARE(stateOf("chkPwd1"), Qt::PartiallyChecked);
-    QVERIFY(!control<QWidget>(dialog, "cmdChangePwd").isEnabled());
-    answerNewPassword(u"new"_s);
-    press(dialog, "chkPwd");
-    QCOMPARE(stateOf("chkPwd1"), Qt::Checked);
-    press(dialog, "chkPwd2");
-    press(dialog, "OKButton");
-    QVERIFY(m_settings->PwdResult(note));
-    QVERIFY(note.PwdOn && note.Pwd == u"new" && note.PwdOpenCloseOn && note.PwdReadonlyOn && note.SaveTag == 1);
-    // The note never had it: nothing is asked.
-    open({});
-    answerNewPassword(u"new"_s);
-    for (const char *name : {"chkPwd", "chkPwd", "OKButton"})
-        press(dialog, name);
-    clsNoteProps untouched;
-    QVERIFY(m_settings->PwdResult(untouched) && !untouched.PwdOn && untouched.Pwd.isEmpty());
-}
-
-void testPasswordDialogs::switchingOff_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<bool>("off");
-    QTest::newRow("right") << u"old"_s << QByteArray("OKButton") << true;
-    QTest::newRow("wrong") << u"OLD"_s << QByteArray("OKButton") << false;
-    QTest::newRow("cancelled") << u"old"_s << QByteArray("CancelButton") << false;
-}
-
-void testPasswordDialogs::switchingOff()
-{
-    QFETCH(QString, typed);
-    QFETCH(QByteArray, button);
-    QFETCH(bool, off);
-    clsNoteProps note = protectedNote();
-    const QDialog &dialog = open(note);
-    answerPassword(typed, button.constData());
-    if (off)
-        press(dialog, "chkPwd");
-    else
-        pressInVain("chkPwd", {u"Disabling password protection failed."_s, u"Disabling failed"_s});
-    QCOMPARE(control<QCheckBox>(dialog, "chkPwd").isChecked(), !off);
-    press(dialog, "OKButton");
-    QVERIFY(m_settings->PwdResult(note));
-    QCOMPARE(note.PwdOn, !off);
-    QCOMPARE(note.Pwd, off ? QString() : u"old"_s);
-}
-
-void testPasswordDialogs::changing()
-{
-    clsNoteProps note = protectedNote();
-    const QDialog &dialog = open(note);
-    answerDialog(u"frmChangePwd"_s, [](QDialog &change) { press(change, "CancelButton"); });
-    pressInVain("cmdChangePwd", {u"Password change failed. "_s, u"Change failed"_s});
-    answerDialog(u"frmChangePwd"_s, [](QDialog &change) {
-        enter(change, "txtPwd3", u"old"_s);
-        enterBoth(change, u"new"_s, u"new"_s);
-        press(change, "OKButton");
-    });
-    press(dialog, "cmdChangePwd");
-    press(dialog, "OKButton");
-    QVERIFY(m_settings->PwdResult(note) && note.Pwd == u"new" && note.PwdOn);
-}
-
-void testPasswordDialogs::cancelDropsAll()
-{
-    clsNoteProps note = protectedNote();
-    const QDialog &dialog = open(note);
-    press(dialog, "chkPwd1");
-    answerPassword(u"old"_s, "OKButton");
-    press(dialog, "chkPwd");
-    press(dialog, "CancelButton");
-    QVERIFY(!m_settings->PwdResult(note) && note == protectedNote());
-}
 
 QTEST_MAIN(testPasswordDialogs)
 #include "testPasswordDialogs.moc"
