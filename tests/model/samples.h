@@ -3,9 +3,7 @@
 #pragma once
 
 #include "model/recordFields.h"
-
-#include <QFile>
-#include <QTest>
+#include "support/TestHome.h"
 
 /// Gives every listed property of a record a value that is not its default and, where the type allows, its own.
 template <class Record, class... Types> void fill(Record &record, const std::tuple<Types Record::*...> &fields)
@@ -39,19 +37,5 @@ inline clsNoteProps taggedNote(qint32 tag, const QString &text)
     return note;
 }
 
-inline QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-inline void setContents(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-inline QByteArray sampleFile(const QByteArray &name)
-{
-    return contents(QStringLiteral(TEST_DATA "/") + QString::fromLatin1(name));
-}
+inline constexpr auto &contents = TestHome::contents;
+inline constexpr auto &setContents = TestHome::setContents;

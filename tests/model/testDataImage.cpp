@@ -1,120 +1,137 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "model/DataImage.h"
+#include "model/DataSurvey.h"
+#include "model/modStreams.h"
 #include "samples.h"
+#include "support/compareRow.h"
 
-#include <QObject>
 #include <QRandomGenerator>
 #include <QtEndian>
 
-using namespace Qt::StringLiterals;
+#include <limits>
 
 namespace
 {
 
-/// The data file kept as bytes that are moved about. Positions count from 1, so byte 0 is not used.
-class ByteImage
+constexpr int Plenty = 1000;
+
+struct Record
 {
-public:
-    void write(qint32 tag, const QByteArray &record, bool keep)
-    {
-        if (m_count > 0)
-            take(tag);
-        if (keep)
-            insert(tag, record);
-    }
-
-    QByteArray bytes()
-    {
-        put(1, qint32(m_bytes.size() - 1));
-        put(5, m_count);
-        return m_count > 0 ? m_bytes.sliced(1) : QByteArray();
-    }
-
-private:
-    qint32 get(qsizetype at) const { return qFromLittleEndian<qint32>(m_bytes.data() + at); }
-    void put(qsizetype at, qint32 value) { qToLittleEndian(value, m_bytes.data() + at); }
-    static qsizetype entry(qint32 index) { return 9 + 12 * qsizetype(index); }
-
-    void take(qint32 tag)
-    {
-        qint32 found = -1;
-        for (qint32 k = 0; k < m_count; ++k)
-            found = get(entry(k)) == tag ? k : found;
-        if (found < 0)
-            return;
-        const qint32 start = get(entry(found) + 4);
-        const qint32 length = get(entry(found) + 8);
-        m_bytes.remove(entry(found), 12).remove(start - 12, length);
-        --m_count;
-        for (qint32 k = 0; k < m_count; ++k) {
-            const qint32 moved = get(entry(k) + 4) - 12;
-            put(entry(k) + 4, moved > start - 12 ? moved - length : moved);
-        }
-    }
-
-    void insert(qint32 tag, const QByteArray &record)
-    {
-        const auto start = qint32(m_bytes.size() + 12);
-        m_bytes.insert(9, QByteArray(12, '\0')).append(record);
-        put(9, tag);
-        put(13, start);
-        put(17, qint32(record.size()));
-        for (qint32 k = 1; k <= m_count; ++k)
-            put(entry(k) + 4, get(entry(k) + 4) + 12);
-        ++m_count;
-    }
-
-    QByteArray m_bytes = QByteArray(9, '\0');
-    qint32 m_count = 0;
+    qint32 tag;
+    QByteArray bytes;
 };
+
+QByteArray patched(QByteArray file, qsizetype position, qint32 value)
+{
+    modStreams::WriteLong(value, position, file);
+    return file;
+}
+
+QByteArray longs(std::initializer_list<qsizetype> values)
+{
+    QByteArray bytes;
+    for (const qsizetype value : values)
+        bytes += patched(QByteArray(4, '\0'), 0, qint32(value));
+    return bytes;
+}
+
+/// As the file holds them: the directory from the newest to the oldest, the records the other way, counted from 1.
+QByteArray laidOut(const QList<Record> &oldestFirst)
+{
+    QByteArray directory;
+    QByteArray records;
+    for (const Record &record : oldestFirst) {
+        directory.prepend(longs({record.tag, 9 + 12 * oldestFirst.size() + records.size(), record.bytes.size()}));
+        records += record.bytes;
+    }
+    const QByteArray all = directory + records;
+    return all.isEmpty() ? all : longs({8 + all.size(), oldestFirst.size()}) + all;
+}
+
+/// What is not called damaged can be written again with nothing lost, and every entry is accounted for.
+bool survives(const QByteArray &file, int room = Plenty)
+{
+    const DataSurvey survey = surveyDataFile(file, {}, room);
+    DataImage image;
+    const char *entry = file.constData() + DataImage::HeaderLength;
+    for (const DataSurvey::Note &found : survey.notes) {
+        const QByteArray record = modStreams::EncodeNoteRecord(found.note);
+        if (!survey.isDamaged && !image.keepLoaded(qFromLittleEndian<qint32>(entry), record))
+            return false;
+        entry += DataImage::EntryLength;
+    }
+    const bool isComplete =
+        survey.notes.size() + survey.beyondRoom.size() + size_t(survey.undecodable) == size_t(survey.recordCount);
+    return isComplete && (survey.isDamaged || !survey.beyondRoom.empty() || image.bytes().size() == file.size());
+}
 
 } // namespace
 
+/// The bytes of the data file, written and read.
 class testDataImage final : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void movesLikeBytes();
-    void foreignRecordsStayLast();
-};
-
-void testDataImage::movesLikeBytes()
-{
-    QRandomGenerator random(1);
-    DataImage image;
-    ByteImage reference;
-    for (int turn = 0; turn < 2000; ++turn) {
-        const auto tag = qint32(random.bounded(1, 9));
-        const QByteArray record(random.bounded(0, 40), char('a' + turn % 26));
-        const bool keep = random.bounded(3) > 0;
-        if (keep)
-            QVERIFY(image.put(tag, record).ok());
-        else
-            image.remove(tag);
-        reference.write(tag, record, keep);
-        QCOMPARE(image.bytes(), reference.bytes());
-        QCOMPARE(image.ImageLength(), image.bytes().size());
+    void changesAtRandom()
+    {
+        QRandomGenerator random(1);
+        DataImage image;
+        QList<Record> expected;
+        for (int turn = 0; turn < 2000; ++turn) {
+            const Record record{random.bounded(1, 9), QByteArray(random.bounded(0, 40), char('a' + turn % 26))};
+            expected.removeIf([&record](const Record &other) { return other.tag == record.tag; });
+            if (random.bounded(3) > 0) {
+                QVERIFY(image.put(record.tag, record.bytes).ok());
+                expected.append(record);
+            } else {
+                image.remove(record.tag);
+            }
+            QCOMPARE(image.bytes(), laidOut(expected));
+            QCOMPARE(image.ImageLength(), image.bytes().size());
+        }
     }
-}
 
-void testDataImage::foreignRecordsStayLast()
-{
-    DataImage image;
-    image.keepForeign("first");
-    image.keepForeign("second");
-    QVERIFY(image.put(7, "new").ok());
-    image.keepLoaded(3, "old");
-    QVERIFY(!image.remove(1));
-    const QByteArray expected = QByteArray::fromHex("4900000004000000"
-                                                    "070000004700000003000000"
-                                                    "030000004400000003000000"
-                                                    "000000003f00000005000000"
-                                                    "000000003900000006000000") +
-                                "secondfirstoldnew";
-    QCOMPARE(image.bytes().toHex(' '), expected.toHex(' '));
-}
+    void everyTruncation()
+    {
+        const auto isDamaged = [](const QByteArray &file) { return surveyDataFile(file, {}, Plenty).isDamaged; };
+        const auto row = [&isDamaged](const char *name, int count, qsizetype step) {
+            const QByteArray file = TestHome::sample(name);
+            const DataSurvey narrow = surveyDataFile(file, {}, 4);
+            compareRow(name, int(narrow.notes.size() + narrow.beyondRoom.size()), count);
+            QVERIFY2(survives(file) && !narrow.isDamaged && !isDamaged(file) && isDamaged(file + '\0'), name);
+            for (qsizetype keep = 1; keep < file.size(); keep += step)
+                QVERIFY2(survives(file.first(keep)) && isDamaged(file.first(keep)), qPrintable(QString::number(keep)));
+        };
+        row("household.dat", 10, 1);
+        row("hundred.dat", 100, 97);
+        QVERIFY(survives({}) && !isDamaged({}));
+    }
+
+    void everyNumberPatched()
+    {
+        const QByteArray file = TestHome::sample("household.dat");
+        for (const qint32 value : {0, 1, -1, std::numeric_limits<qint32>::max(), std::numeric_limits<qint32>::min()})
+            for (qsizetype position = 0; position + 4 <= file.size(); ++position) {
+                const QByteArray bytes = patched(file, position, value);
+                QVERIFY2(survives(bytes) && survives(bytes, 3), qPrintable(QString::number(position)));
+            }
+    }
+
+    void oneRecordNamedOften()
+    {
+        constexpr int Entries = 200'000;
+        constexpr qsizetype Start = 9 + Entries * 12;
+        const QByteArray record = modStreams::EncodeNoteRecord(taggedNote(0, QString(50'000, u'x')));
+        const QByteArray file =
+            longs({Start - 1 + record.size(), Entries}) + longs({0, Start, record.size()}).repeated(Entries) + record;
+        const DataSurvey survey = surveyDataFile(file, {}, 100);
+        QVERIFY(survey.isDamaged && survives(file, 100));
+        QVERIFY(qsizetype(survey.notes.size()) * record.size() <= 2 * file.size());
+        QVERIFY(qsizetype(survey.beyondRoom.size()) * record.size() <= file.size());
+    }
+};
 
 QTEST_APPLESS_MAIN(testDataImage)
 #include "testDataImage.moc"

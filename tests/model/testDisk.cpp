@@ -1,12 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
-#include "model/modFileIO.h"
+#include "Runs.h"
 #include "model/wholeFile.h"
-#include "samples.h"
-
-#include <QDir>
-#include <QObject>
-#include <QTemporaryDir>
+#include "support/rows.h"
 
 #include <cerrno>
 #include <csignal>
@@ -92,120 +88,82 @@ private:
 
 } // namespace
 
-Q_DECLARE_METATYPE(Calls)
-
+/// What is asked of the system when a file is replaced, and what comes of its refusals.
 class testDisk final : public QObject
 {
     Q_OBJECT
 
 private slots:
     void cleanup() { calls = {}; }
-    void outlastsPowerCuts();
-    void systemsThatRefuse_data();
-    void systemsThatRefuse();
-    void goodFileStays_data();
-    void goodFileStays();
-    void nextWriteCatchesUp();
-    void ownFileIsNobodyElses();
-};
 
-void testDisk::outlastsPowerCuts()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"notes.dat"_s);
-    setContents(path, "good");
-    calls.interruptions = 2;
-    QVERIFY(wholeFile::replace(path, "better").ok());
-    calls.made.removeAll("chmod");
-    QCOMPARE(calls.made.join(", "), QByteArray("interrupted, interrupted, sync file, rename, sync folder"));
-}
-
-void testDisk::systemsThatRefuse_data()
-{
-    QTest::addColumn<Calls>("answers");
-    QTest::addColumn<bool>("isWritten");
-    QTest::addColumn<QByteArray>("contents");
-    QTest::newRow("disk fails") << Calls{.syncOfFile = EIO} << false << QByteArray("good");
-    QTest::newRow("disk is full") << Calls{.syncOfFile = ENOSPC} << false << QByteArray("good");
-    QTest::newRow("no sync of such files") << Calls{.syncOfFile = EINVAL} << true << QByteArray("better");
-    QTest::newRow("no sync at all") << Calls{.syncOfFile = ENOSYS, .syncOfFolder = ENOSYS} << true
-                                    << QByteArray("better");
-    QTest::newRow("no sync of folders") << Calls{.syncOfFolder = EINVAL} << true << QByteArray("better");
-    QTest::newRow("disk fails behind the rename") << Calls{.syncOfFolder = EIO} << false << QByteArray("better");
-    QTest::newRow("no permissions") << Calls{.permissions = EPERM} << true << QByteArray("better");
-}
-
-void testDisk::systemsThatRefuse()
-{
-    QFETCH(Calls, answers);
-    QFETCH(bool, isWritten);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"notes.dat"_s);
-    setContents(path, "good");
-    calls = answers;
-    const auto written = wholeFile::replace(path, "better");
-    QCOMPARE(written.ok(), isWritten);
-    QVERIFY(written.ok() || !written.error().isEmpty());
-    QTEST(contents(path), "contents");
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(u"notes.dat"_s));
-}
-
-void testDisk::goodFileStays_data()
-{
-    QTest::addColumn<int>("limit");
-    for (const int limit : {0, 1, 4096, 65536, 119999})
-        QTest::addRow("%d bytes", limit) << limit;
-}
-
-void testDisk::goodFileStays()
-{
-    QFETCH(int, limit);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"notes.dat"_s);
-    setContents(path, "good");
-    const DiskLimit full{rlim_t(limit)};
-    const auto written = wholeFile::replace(path, QByteArray(120'000, 'x'));
-    QVERIFY(!written && !written.error().isEmpty());
-    QCOMPARE(contents(path), QByteArray("good"));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(u"notes.dat"_s));
-}
-
-void testDisk::nextWriteCatchesUp()
-{
-    const QTemporaryDir folder;
-    DataFileState state;
-    state.paths = ProgramPaths::under(folder.path(), folder.path());
-    QDir(folder.path()).mkdir(u"Data"_s);
-    QVERIFY(modFileIO::WriteNoteRecord(state, taggedNote(1, u"first"_s), NoteFate::Keep).kind ==
-            WriteResult::Kind::Written);
-    const QByteArray before = contents(state.paths.DataFile);
+    void outlastsPowerCuts()
     {
-        const DiskLimit full(200);
-        const WriteResult result = modFileIO::WriteNoteRecord(state, taggedNote(2, QString(500, u'x')), NoteFate::Keep);
-        QVERIFY(result.kind == WriteResult::Kind::Failed && !result.reason.isEmpty());
-        QVERIFY(state.unsaved && !modFileIO::flush(state));
+        const TestHome home;
+        home.setDataFile("good");
+        calls.interruptions = 2;
+        QVERIFY(wholeFile::replace(home.paths.DataFile, "better").ok());
+        calls.made.removeAll("chmod");
+        QCOMPARE(calls.made.join(", "), QByteArray("interrupted, interrupted, sync file, rename, sync folder"));
     }
-    QCOMPARE(contents(state.paths.DataFile), before);
-    QVERIFY(modFileIO::flush(state).ok() && !state.unsaved);
-    QCOMPARE(contents(state.paths.DataFile), state.image.bytes());
-}
 
-/// A write that only failed to be made sure of is made again, and not taken for another program's.
-void testDisk::ownFileIsNobodyElses()
-{
-    const QTemporaryDir folder;
-    DataFileState state;
-    state.paths = ProgramPaths::under(folder.path(), folder.path());
-    QDir(folder.path()).mkdir(u"Data"_s);
-    const auto save = [&state](const QString &text) {
-        return modFileIO::WriteNoteRecord(state, taggedNote(1, text), NoteFate::Keep).kind;
-    };
-    QVERIFY(save(u"first"_s) == WriteResult::Kind::Written);
-    calls.syncOfFolder = EIO;
-    QVERIFY(save(u"second"_s) == WriteResult::Kind::Failed && state.unsaved);
-    calls.syncOfFolder = 0;
-    QVERIFY(save(u"third"_s) == WriteResult::Kind::Written && state.keptMeanwhile.isEmpty());
-}
+    void systemsThatRefuse_data()
+    {
+        const Rows<Calls, int, bool, bool> row; // answers, room on the disk in bytes, is written, is replaced
+        constexpr int Enough = 1'000'000;
+        row("disk fails", Calls{.syncOfFile = EIO}, Enough, false, false);
+        row("disk is full", Calls{.syncOfFile = ENOSPC}, Enough, false, false);
+        row("no sync of such files", Calls{.syncOfFile = EINVAL}, Enough, true, true);
+        row("no sync", Calls{.syncOfFile = ENOSYS, .syncOfFolder = ENOSYS}, Enough, true, true);
+        row("no sync of folders", Calls{.syncOfFolder = EINVAL}, Enough, true, true);
+        row("disk fails behind the rename", Calls{.syncOfFolder = EIO}, Enough, false, true);
+        row("no permissions", Calls{.permissions = EPERM}, Enough, true, true);
+        for (const int room : {0, 1, 4096, 65536, 119'999})
+            row(u"room for %1 bytes"_s.arg(room), {}, room, false, false);
+    }
+
+    void systemsThatRefuse()
+    {
+        const auto [answers, room, isWritten, isReplaced] = fetchRow<Calls, int, bool, bool>();
+        const QByteArray better(120'000, 'x');
+        const TestHome home;
+        home.setDataFile("good");
+        calls = answers;
+        std::optional<DiskLimit> disk(std::in_place, rlim_t(room));
+        const auto written = wholeFile::replace(home.paths.DataFile, better);
+        disk.reset();
+        QCOMPARE(written.ok(), isWritten);
+        QVERIFY(written.ok() || !written.error().isEmpty());
+        QCOMPARE(home.dataFile(), isReplaced ? better : "good");
+        QCOMPARE(QDir(home.paths.DataFolder).entryList(QDir::Files), QStringList(u"quillets.dat"_s));
+    }
+
+    void nextWriteCatchesUp()
+    {
+        Runs runs;
+        QVERIFY(runs.save(1, u"first"_s).kind == WriteResult::Kind::Written);
+        const QByteArray before = runs.dataFile();
+        {
+            const DiskLimit full(200);
+            const WriteResult result = runs.save(2, QString(500, u'x'));
+            QVERIFY(result.kind == WriteResult::Kind::Failed && !result.reason.isEmpty());
+            QVERIFY(runs.state.unsaved && !modFileIO::flush(runs.state));
+        }
+        QCOMPARE(runs.dataFile(), before);
+        QVERIFY(modFileIO::flush(runs.state).ok() && !runs.state.unsaved);
+        QCOMPARE(runs.dataFile(), runs.state.image.bytes());
+    }
+
+    /// A write that only failed to be made sure of is made again, and not taken for another program's.
+    void ownFileIsNobodyElses()
+    {
+        Runs runs;
+        QVERIFY(runs.save(1, u"first"_s).kind == WriteResult::Kind::Written);
+        calls.syncOfFolder = EIO;
+        QVERIFY(runs.save(1, u"second"_s).kind == WriteResult::Kind::Failed && runs.state.unsaved);
+        calls.syncOfFolder = 0;
+        QVERIFY(runs.save(1, u"third"_s).kind == WriteResult::Kind::Written && runs.state.keptMeanwhile.isEmpty());
+    }
+};
 
 QTEST_APPLESS_MAIN(testDisk)
 #include "testDisk.moc"

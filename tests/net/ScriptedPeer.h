@@ -8,7 +8,7 @@
 #include <QTcpSocket>
 #include <QTest>
 
-#include <memory>
+#include <functional>
 
 /// What a peer does once it has received so many bytes of its connection.
 struct Turn
@@ -24,6 +24,62 @@ struct Turn
     Then then = Then::GoOn;
 };
 using Script = QList<Turn>;
+
+/// Plays a script on a connection and keeps what it was told.
+class ScriptedTalk final : public QObject
+{
+public:
+    ScriptedTalk(QTcpSocket &socket, Script script, bool byteByByte)
+        : m_socket(socket), m_left(std::move(script)), m_byteByByte(byteByByte)
+    {
+        m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        connect(&m_socket, &QTcpSocket::connected, this, &ScriptedTalk::hear);
+        connect(&m_socket, &QTcpSocket::readyRead, this, &ScriptedTalk::hear);
+    }
+
+    void hear()
+    {
+        do {
+            heard += m_socket.readAll();
+            if (onHeard)
+                onHeard();
+            play();
+            // What came while it spoke is not told once more.
+        } while (m_socket.bytesAvailable() > 0);
+    }
+
+    QByteArray heard;
+    std::function<void()> onHeard;
+
+private:
+    void play()
+    {
+        while (!m_left.isEmpty() && m_left.first().after <= heard.size()) {
+            const Turn turn = m_left.takeFirst();
+            say(turn.says);
+            if (turn.then == Turn::Then::Close)
+                m_socket.disconnectFromHost();
+            else if (turn.then == Turn::Then::Break)
+                m_socket.abort();
+        }
+    }
+
+    /// Each byte is on its way before the next: it arrives alone.
+    void say(const QByteArray &bytes)
+    {
+        const qsizetype step = m_byteByByte ? 1 : std::max<qsizetype>(1, bytes.size());
+        for (qsizetype at = 0; at < bytes.size() && m_socket.state() == QAbstractSocket::ConnectedState; at += step) {
+            m_socket.write(bytes.mid(at, step));
+            m_socket.flush();
+            if (m_byteByByte)
+                QTest::qWait(0);
+        }
+    }
+
+    QTcpSocket &m_socket;
+    Script m_left;
+    const bool m_byteByByte;
+};
 
 /// A peer on loopback that plays a script to each of its connections, and keeps what it was told.
 class ScriptedPeer final : public QObject
@@ -45,44 +101,12 @@ private:
     void accept()
     {
         QTcpSocket *const socket = m_server.nextPendingConnection();
+        auto *const talk = new ScriptedTalk(*socket, m_script, m_byteByByte);
         socket->setParent(this);
-        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        const qsizetype number = received.size();
+        talk->setParent(socket);
+        talk->onHeard = [this, talk, number = received.size()] { received[number] = talk->heard; };
         received.append(QByteArray());
-        auto left = std::make_shared<Script>(m_script);
-        const auto hear = [this, socket, number, left] {
-            do {
-                received[number] += socket->readAll();
-                play(*socket, received.at(number).size(), *left);
-                // What came while it spoke is not told once more.
-            } while (socket->bytesAvailable() > 0);
-        };
-        connect(socket, &QTcpSocket::readyRead, this, hear);
-        hear();
-    }
-
-    void play(QTcpSocket &socket, qsizetype heard, Script &left)
-    {
-        while (!left.isEmpty() && left.first().after <= heard) {
-            const Turn turn = left.takeFirst();
-            say(socket, turn.says);
-            if (turn.then == Turn::Then::Close)
-                socket.disconnectFromHost();
-            else if (turn.then == Turn::Then::Break)
-                socket.abort();
-        }
-    }
-
-    /// Each byte is on its way before the next: it arrives alone.
-    void say(QTcpSocket &socket, const QByteArray &bytes)
-    {
-        const qsizetype step = m_byteByByte ? 1 : std::max<qsizetype>(1, bytes.size());
-        for (qsizetype at = 0; at < bytes.size(); at += step) {
-            socket.write(bytes.mid(at, step));
-            socket.flush();
-            if (m_byteByByte)
-                QTest::qWait(0);
-        }
+        talk->hear();
     }
 
     QTcpServer m_server;

@@ -1,35 +1,35 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
+#include "ScriptedPeer.h"
 #include "net/NoteReceiver.h"
-#include "net/NoteSender.h"
+#include "net/PacketReader.h"
+#include "net/SenderPace.h"
 #include "net/SenderPolicy.h"
 #include "samplePackets.h"
+#include "support/rows.h"
 
 #include <QSignalSpy>
-#include <QTcpSocket>
-#include <QTest>
 #include <QtEndian>
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
+using Senders = clsNetworkSettings::Senders;
+using Status = PacketReader::Status;
+using Then = Turn::Then;
 
 namespace
 {
 
-/// What a sender does: sends some bytes when so many bytes of replies are there.
-struct Move
+/// Bytes with the 32-bit number at an offset replaced.
+QByteArray withNumber(QByteArray bytes, qsizetype offset, qint32 number)
 {
-    qsizetype after = 0;
-    QByteArray sends{};
-    bool closes = false;
-};
-using Moves = QList<Move>;
+    qToLittleEndian(number, bytes.data() + offset);
+    return bytes;
+}
 
 QByteArray length(qint32 number)
 {
-    QByteArray bytes(4, '\0');
-    qToLittleEndian(number, bytes.data());
-    return bytes;
+    return withNumber(QByteArray(4, '\0'), 0, number);
 }
 
 quint16 freePort()
@@ -39,48 +39,21 @@ quint16 freePort()
     return server.serverPort();
 }
 
-/// A sender on loopback that keeps to its moves and nothing else.
-class Client final : public QObject
+/// A sender on loopback that keeps to its script and nothing else.
+struct Client
 {
-public:
-    Client(quint16 port, Moves moves, bool byteByByte = false) : m_moves(std::move(moves)), m_byteByByte(byteByByte)
+    Client(quint16 port, const Script &script, bool byteByByte = false) : talk(socket, script, byteByByte)
     {
-        m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        connect(&m_socket, &QTcpSocket::readyRead, this, &Client::go);
-        connect(&m_socket, &QTcpSocket::connected, this, &Client::go);
-        m_socket.connectToHost(QHostAddress::LocalHost, port);
+        QObject::connect(&socket, &QTcpSocket::connected, &talk, [this] { hasConnected = true; });
+        socket.connectToHost(QHostAddress::LocalHost, port);
     }
 
-    bool isConnected() const { return m_socket.state() == QAbstractSocket::ConnectedState; }
-    bool isClosed() const { return m_socket.state() == QAbstractSocket::UnconnectedState; }
-    void abort() { m_socket.abort(); }
-    QByteArray heard;
+    bool isConnected() const { return socket.state() == QAbstractSocket::ConnectedState; }
+    bool isClosed() const { return socket.state() == QAbstractSocket::UnconnectedState; }
+
+    QTcpSocket socket;
+    ScriptedTalk talk;
     bool hasConnected = false;
-
-private:
-    void go()
-    {
-        hasConnected = true;
-        heard += m_socket.readAll();
-        while (!m_moves.isEmpty() && m_moves.first().after <= heard.size()) {
-            const Move move = m_moves.takeFirst();
-            send(move.sends);
-            if (move.closes)
-                m_socket.disconnectFromHost();
-        }
-    }
-    void send(const QByteArray &bytes)
-    {
-        const qsizetype step = m_byteByByte ? 1 : std::max<qsizetype>(1, bytes.size());
-        for (qsizetype at = 0; at < bytes.size() && isConnected(); at += step) {
-            m_socket.write(bytes.mid(at, step));
-            m_socket.flush();
-        }
-    }
-
-    QTcpSocket m_socket;
-    Moves m_moves;
-    const bool m_byteByByte;
 };
 
 /// A receiver on loopback and what it took.
@@ -89,17 +62,13 @@ struct Listening
     explicit Listening(ReceiverLimits limits = {}) : receiver(policy, limits)
     {
         QObject::connect(&receiver, &NoteReceiver::received, &receiver,
-                         [this](const Packet &packet, const QHostAddress &peer) {
-                             packets << packet;
-                             peers << peer;
-                         });
+                         [this](const Packet &packet) { packets << packet; });
         port = receiver.listen(freePort(), QHostAddress::LocalHost).value();
     }
     SenderPolicy policy;
     NoteReceiver receiver;
     quint16 port = 0;
     QList<Packet> packets;
-    QList<QHostAddress> peers;
 };
 
 Packet titled(const QString &name)
@@ -107,7 +76,7 @@ Packet titled(const QString &name)
     return {u"v"_s, u"id"_s, name, sampleRecord()};
 }
 
-Moves good(const Packet &packet = samplePacket())
+Script good(const Packet &packet = samplePacket())
 {
     const QByteArray bytes = encodePacket(packet);
     return {{3, bytes.first(4)}, {3 + QByteArray::number(bytes.size()).size(), bytes.sliced(4)}};
@@ -115,194 +84,285 @@ Moves good(const Packet &packet = samplePacket())
 
 } // namespace
 
+/// Notes that arrive: whom they are taken from, their packets, and the talk with the sender.
 class testNoteReceiver final : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void exchanges_data();
-    void exchanges();
-    void oneAfterTheOther();
-    void manyAtOnce();
-    void waitingPeersThatGo();
-    void noRoom();
-    void refusedSenders();
-    void ports();
-    void senderAndReceiver();
-    void closedInASlot();
-};
-
-void testNoteReceiver::exchanges_data()
-{
-    QTest::addColumn<Moves>("moves");
-    QTest::addColumn<bool>("byteByByte");
-    QTest::addColumn<QByteArray>("heard"); // All replies.
-    QTest::addColumn<bool>("taken");
-    const QByteArray bytes = encodePacket(samplePacket());
-    const QByteArray size = QByteArray::number(bytes.size());
-    const QByteArray all = "250" + size + "300";
-    const qsizetype said = 3 + size.size();
-
-    QTest::newRow("good") << good() << false << all << true;
-    QTest::newRow("single bytes") << Moves{{0, bytes}} << true << all << true;
-    QTest::newRow("in one piece, before it was ready") << Moves{{0, bytes}} << false << all << true;
-    QTest::newRow("too long") << Moves{{3, bytes + "x"}} << false << all << false;
-    QTest::newRow("two packets") << Moves{{3, bytes + bytes}} << false << all << false;
-
-    for (const qint32 number : {-1, 0, 15, int(LargestPacket) + 1, std::numeric_limits<int>::max()})
-        QTest::addRow("length %d", number) << Moves{{3, length(number) + "abc"}} << false << QByteArray("250") << false;
-    QTest::newRow("a text past the end") << Moves{{3, length(40) + length(100)}} << false << QByteArray("25040")
-                                         << false;
-    QTest::newRow("garbage for a record")
-        << Moves{{3, length(20) + QByteArray(16, '\0')}} << false << QByteArray("25020") << false;
-
-    QTest::newRow("closes at once") << Moves{{0, "", true}} << false << QByteArray() << false;
-    QTest::newRow("closes in the length") << Moves{{3, bytes.first(2), true}} << false << QByteArray("250") << false;
-    QTest::newRow("closes behind the length")
-        << Moves{{3, bytes.first(4)}, {said, "", true}} << false << all.first(said) << false;
-    QTest::newRow("closes before the end")
-        << Moves{{3, bytes.first(4)}, {said, bytes.sliced(4).chopped(1), true}} << false << all.first(said) << false;
-
-    QTest::newRow("silent") << Moves{} << false << QByteArray("250") << false;
-    QTest::newRow("stalls in the length") << Moves{{3, bytes.first(3)}} << false << QByteArray("250") << false;
-    QTest::newRow("stalls before the end") << Moves{{3, bytes.chopped(1)}} << false << all.first(said) << false;
-}
-
-void testNoteReceiver::exchanges()
-{
-    QFETCH(Moves, moves);
-    QFETCH(bool, byteByByte);
-    QFETCH(QByteArray, heard);
-    QFETCH(bool, taken);
-    Listening there({.budget = 150ms});
-    Client client(there.port, moves, byteByByte);
-    QTRY_VERIFY(client.hasConnected);
-    // Whatever the first one does, the next gets its turn.
-    Client next(there.port, good(titled(u"next"_s)));
-    QTRY_VERIFY(there.packets.contains(titled(u"next"_s)));
-    QTRY_VERIFY(client.isClosed());
-    if (!heard.isEmpty())
-        QCOMPARE(client.heard, heard);
-    QCOMPARE(there.packets.contains(samplePacket()), taken);
-    QCOMPARE(there.packets.size(), taken ? 2 : 1);
-}
-
-void testNoteReceiver::oneAfterTheOther()
-{
-    Listening there;
-    Client first(there.port, {});
-    QTRY_COMPARE(first.heard, QByteArray("250"));
-    std::vector<std::unique_ptr<Client>> others;
-    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s}) {
-        others.push_back(std::make_unique<Client>(there.port, good(titled(name))));
-        QTRY_VERIFY(others.back()->isConnected());
+    void policy_data()
+    {
+        const Rows<QString, clsNetworkSettings, bool> row; // sender, settings, admitted
+        const clsNetworkSettings usual;
+        const clsNetworkSettings far{.FarSendersOn = true};
+        const clsNetworkSettings book{.AcceptFrom = Senders::SendBook};
+        const clsNetworkSettings blocked{.FarSendersOn = true,
+                                         .BlockedSenders = {u"?"_s, u"192.168.1.9"_s, u"fe80::9"_s}};
+        for (const QString &near :
+             {u"127.0.0.1"_s, u"127.8.9.1"_s, u"::1"_s, u"10.255.0.1"_s, u"172.31.255.255"_s, u"192.168.0.1"_s,
+              u"169.254.3.4"_s, u"fe80::1%eth0"_s, u"fd00::5"_s, u"::ffff:192.168.0.1"_s})
+            row(u"nearby: "_s + near, near, usual, true);
+        for (const QString &distant : {u"8.8.8.8"_s, u"172.32.0.1"_s, u"172.15.0.1"_s, u"192.169.0.1"_s, u"11.0.0.1"_s,
+                                       u"2001:db8::1"_s, u"::ffff:8.8.8.8"_s, u"0.0.0.0"_s}) {
+            row(u"far: "_s + distant, distant, usual, false);
+            row(u"widened: "_s + distant, distant, far, true);
+        }
+        row("blocked", u"::ffff:192.168.1.9"_s, blocked, false);
+        row("blocked on its link", u"fe80::9%eth0"_s, blocked, false);
+        row("its neighbour", u"192.168.1.8"_s, blocked, true);
+        row("nobody", u"127.0.0.1"_s, {.AcceptFrom = Senders::Nobody}, false);
+        row("address in the book", u"192.168.1.7"_s, book, true);
+        row("name in the book", u"127.0.0.1"_s, book, true);
+        row("not in the book", u"192.168.1.6"_s, book, false);
+        row("in the book, but far", u"8.8.4.4"_s, book, false);
     }
-    QVERIFY(others.front()->heard.isEmpty());
-    first.abort();
-    QTRY_COMPARE(there.packets, (QList{titled(u"a"_s), titled(u"b"_s), titled(u"c"_s)}));
-}
 
-/// More than are let wait, and more than a burst: from this computer itself all are taken.
-void testNoteReceiver::manyAtOnce()
-{
-    Listening there;
-    std::vector<std::unique_ptr<Client>> clients;
-    for (int k = 0; k < 45; ++k)
-        clients.push_back(std::make_unique<Client>(there.port, good()));
-    QTRY_COMPARE(there.packets.size(), 45);
-}
+    void policy()
+    {
+        const auto [sender, settings, isAdmitted] = fetchRow<QString, clsNetworkSettings, bool>();
+        SenderPolicy policy;
+        policy.setSettings(settings);
+        policy.setBookHosts([] { return QStringList{u"192.168.1.7"_s, u"localhost"_s, u"8.8.4.4"_s}; });
+        QList<bool> answers;
+        policy.ask(QHostAddress(sender), this, [&answers](bool answer) { answers << answer; });
+        QTRY_VERIFY(!answers.isEmpty());
+        QCOMPARE(answers, QList{isAdmitted});
+    }
 
-void testNoteReceiver::waitingPeersThatGo()
-{
-    Listening there;
-    Client first(there.port, {});
-    QTRY_COMPARE(first.heard, QByteArray("250"));
-    std::vector<std::unique_ptr<Client>> waiting;
-    for (int k = 0; k < 40; ++k)
-        waiting.push_back(std::make_unique<Client>(there.port, Moves()));
-    for (const auto &client : waiting)
-        QTRY_VERIFY(client->isConnected());
-    Client last(there.port, good());
-    waiting.clear();
-    first.abort();
-    QTRY_COMPARE(there.packets.size(), 1);
-}
+    void pace()
+    {
+        SenderPace pace(30, 2s);
+        const QHostAddress flooder(u"192.168.1.9"_s);
+        SenderPace::Time now{};
+        const auto take = [&](const QHostAddress &sender, int notes) {
+            for (int k = 0; k < notes; ++k) {
+                QCOMPARE(pace.delay(sender, now), 0ms);
+                pace.count(sender, now);
+            }
+        };
+        take(flooder, 30);
+        QCOMPARE(pace.delay(flooder, now), 2s);
+        QCOMPARE(pace.delay(QHostAddress(u"192.168.1.8"_s), now), 0ms);
+        QCOMPARE(pace.delay(flooder, now + 1999ms), 1ms);
+        now += 2s;
+        take(flooder, 1);
+        QCOMPARE(pace.delay(flooder, now), 2s);
+        // After a minute of rest the whole burst is there again.
+        now += 60s;
+        take(flooder, 30);
+        QCOMPARE(pace.delay(flooder, now), 2s);
+        take(QHostAddress::LocalHost, 100);
+    }
 
-void testNoteReceiver::noRoom()
-{
-    Listening there;
-    bool hasRoom = false;
-    there.receiver.setRoom([&hasRoom] { return hasRoom; });
-    QSignalSpy told(&there.receiver, &NoteReceiver::noRoom);
-    Client first(there.port, good(titled(u"a"_s)));
-    Client second(there.port, good(titled(u"b"_s)));
-    QTRY_COMPARE(told.size(), 1);
-    QVERIFY(first.heard.isEmpty() && first.isConnected());
-    hasRoom = true;
-    connect(&there.receiver, &NoteReceiver::received, this, [&hasRoom] { hasRoom = false; });
-    there.receiver.lookAgain();
-    // The first note takes the last room.
-    QTRY_COMPARE(told.size(), 2);
-    QCOMPARE(there.packets, QList{titled(u"a"_s)});
-    QVERIFY(second.heard.isEmpty());
-}
+    void layout()
+    {
+        const QByteArray record = sampleRecord();
+        const QByteArray bytes = encodePacket({u"v.1"_s, u"Hi"_s, QString(), record});
+        const QByteArray head("\x06\0\0\0v\0.\0001\0\x04\0\0\0H\0i\0\0\0\0\0", 22);
+        QCOMPARE(bytes, length(int(bytes.size())) + head + record);
+        // All texts empty.
+        const Packet least{{}, {}, {}, sampleRecord({})};
+        PacketReader reader;
+        QCOMPARE(reader.feed(encodePacket(least)), Status::Packet);
+        QCOMPARE(encodePacket(least).size(), 16 + 40);
+        QCOMPARE(reader.takePacket(), least);
+    }
 
-void testNoteReceiver::refusedSenders()
-{
-    Listening there;
-    there.policy.setSettings({.AcceptFrom = clsNetworkSettings::Senders::Nobody});
-    for (int k = 0; k < 40; ++k) {
-        Client client(there.port, good());
+    void everyTruncation()
+    {
+        const QByteArray bytes = encodePacket(samplePacket());
+        PacketReader pieces;
+        for (qsizetype keep = 0; keep < bytes.size(); ++keep) {
+            PacketReader whole;
+            QCOMPARE(whole.feed(bytes.first(keep)), Status::Incomplete);
+            QCOMPARE(pieces.status(), Status::Incomplete);
+            QCOMPARE(whole.claimedLength().has_value(), keep >= 4);
+            pieces.feed(bytes.sliced(keep, 1));
+            // The same bytes as a packet of their own: something in them runs past its end.
+            if (keep >= 4)
+                QCOMPARE(PacketReader().feed(withNumber(bytes.first(keep), 0, qint32(keep))), Status::Bad);
+        }
+        QCOMPARE(pieces.status(), Status::Packet);
+        QCOMPARE(pieces.takePacket(), samplePacket());
+    }
+
+    void damagedPackets_data()
+    {
+        const Rows<QByteArray, bool> row; // bytes, is too long
+        const QByteArray good = encodePacket(samplePacket());
+        const qint32 size = qint32(good.size());
+        constexpr qint32 Least = std::numeric_limits<qint32>::min();
+        for (const qint32 number : {Least, -1, 0, 15, qint32(LargestPacket) + 1, std::numeric_limits<qint32>::max()})
+            row(u"length %1"_s.arg(number), length(number), false);
+        for (const qint32 number : {-2, Least, size, size - 15, 0x7FFFFFFE}) {
+            row(u"version %1"_s.arg(number), withNumber(good.first(8), 4, number), false);
+            row(u"identity %1"_s.arg(number), withNumber(good.first(26), 22, number), false);
+            row(u"name %1"_s.arg(number), withNumber(good.first(62), 58, number), false);
+        }
+        row("half a character", withNumber(good, 4, 13), false);
+        row("a text of the record past the end", withNumber(good, 68 + 24, 1 << 20), false);
+        row("bytes behind it", good + 'x', true);
+        row("the next packet behind it", good + good, true);
+    }
+
+    void damagedPackets()
+    {
+        const auto [bytes, isTooLong] = fetchRow<QByteArray, bool>();
+        PacketReader reader;
+        QCOMPARE(reader.feed(bytes), Status::Bad);
+        QCOMPARE(reader.isTooLong(), isTooLong);
+        QCOMPARE(reader.feed(encodePacket(samplePacket())), Status::Bad);
+    }
+
+    void exchanges_data()
+    {
+        const Rows<Script, QByteArray, bool, bool> row; // script, all replies, is taken, byte by byte
+        const QByteArray bytes = encodePacket(samplePacket());
+        const QByteArray size = QByteArray::number(bytes.size());
+        const QByteArray all = "250" + size + "300";
+        const qsizetype said = 3 + size.size();
+
+        row("good", good(), all, true, false);
+        row("single bytes", {{0, bytes}}, all, true, true);
+        row("in one piece, before it was ready", {{0, bytes}}, all, true, false);
+        const auto fails = [&row](const QString &name, const Script &script, const QByteArray &heard) {
+            row(name, script, heard, false, false);
+        };
+        fails(u"too long"_s, {{3, bytes + "x"}}, all);
+        fails(u"two packets"_s, {{3, bytes + bytes}}, all);
+        for (const qint32 number : {-1, 0, 15, int(LargestPacket) + 1, std::numeric_limits<int>::max()})
+            fails(u"length %1"_s.arg(number), {{3, length(number) + "abc"}}, "250");
+        fails(u"a text past the end"_s, {{3, length(40) + length(100)}}, "25040");
+        fails(u"garbage for a record"_s, {{3, length(20) + QByteArray(16, '\0')}}, "25020");
+        fails(u"closes at once"_s, {{0, "", Then::Close}}, {});
+        fails(u"closes in the length"_s, {{3, bytes.first(2), Then::Close}}, "250");
+        fails(u"closes behind the length"_s, {{3, bytes.first(4)}, {said, "", Then::Close}}, all.first(said));
+        fails(u"closes before the end"_s, {{3, bytes.first(4)}, {said, bytes.sliced(4).chopped(1), Then::Close}},
+              all.first(said));
+        fails(u"silent"_s, {}, "250");
+        fails(u"stalls in the length"_s, {{3, bytes.first(3)}}, "250");
+        fails(u"stalls before the end"_s, {{3, bytes.chopped(1)}}, all.first(said));
+    }
+
+    void exchanges()
+    {
+        const auto [script, heard, isTaken, byteByByte] = fetchRow<Script, QByteArray, bool, bool>();
+        Listening there({.budget = 150ms});
+        const Client client(there.port, script, byteByByte);
+        QTRY_VERIFY(client.hasConnected);
+        // Whatever the first one does, the next gets its turn.
+        const Client next(there.port, good(titled(u"next"_s)));
+        QTRY_VERIFY(there.packets.contains(titled(u"next"_s)));
         QTRY_VERIFY(client.isClosed());
-        QVERIFY(client.heard.isEmpty());
+        if (!heard.isEmpty())
+            QCOMPARE(client.talk.heard, heard);
+        QCOMPARE(there.packets.contains(samplePacket()), isTaken);
+        QCOMPARE(there.packets.size(), isTaken ? 2 : 1);
     }
-    there.policy.setSettings({});
-    Client client(there.port, good());
-    QTRY_COMPARE(there.packets.size(), 1);
-}
 
-void testNoteReceiver::ports()
-{
-    Listening there;
-    SenderPolicy policy;
-    NoteReceiver other(policy);
-    for (const qint32 port : {qint32(there.port), -1, 65536}) {
-        const auto listening = other.listen(port, QHostAddress::LocalHost);
-        QVERIFY(!listening.ok() && !other.isListening());
-        QCOMPARE(listening.error(), (Notice{u"Port is in use.  Networking disabled."_s, u"Error"_s}));
+    void oneAfterTheOther()
+    {
+        Listening there;
+        Client first(there.port, {});
+        QTRY_COMPARE(first.talk.heard, QByteArray("250"));
+        std::vector<std::unique_ptr<Client>> others;
+        for (const QString &name : {u"a"_s, u"b"_s, u"c"_s}) {
+            others.push_back(std::make_unique<Client>(there.port, good(titled(name))));
+            QTRY_VERIFY(others.back()->isConnected());
+        }
+        QVERIFY(others.front()->talk.heard.isEmpty());
+        first.socket.abort();
+        QTRY_COMPARE(there.packets, (QList{titled(u"a"_s), titled(u"b"_s), titled(u"c"_s)}));
     }
-    QCOMPARE(other.listen(0).value(), 0);
-    QVERIFY(!other.isListening());
-    there.receiver.close();
-    QCOMPARE(other.listen(there.port, QHostAddress::LocalHost).value(), there.port);
-}
 
-void testNoteReceiver::senderAndReceiver()
-{
-    Listening there;
-    NoteSender sender;
-    QSignalSpy finished(&sender, &NoteSender::finished);
-    const Packet packet = samplePacket(QString(2'000'000, u'\u20AC'));
-    sender.start(encodePacket(packet), {u"localhost"_s, {}, there.port});
-    QTRY_COMPARE(finished.size(), 1);
-    QCOMPARE(finished.first().first().value<ExchangeResult>().end, ExchangeResult::End::Done);
-    QTRY_COMPARE(there.packets.size(), 1);
-    QVERIFY(there.packets.first() == packet);
-    QCOMPARE(there.peers.first(), QHostAddress(u"127.0.0.1"_s));
-}
+    /// More than are let wait, and more than a burst: from this computer itself all are taken.
+    void manyAtOnce()
+    {
+        Listening there;
+        std::vector<std::unique_ptr<Client>> clients;
+        for (int k = 0; k < 45; ++k)
+            clients.push_back(std::make_unique<Client>(there.port, good()));
+        QTRY_COMPARE(there.packets.size(), 45);
+    }
 
-void testNoteReceiver::closedInASlot()
-{
-    SenderPolicy policy;
-    const quint16 port = freePort();
-    auto receiver = std::make_unique<NoteReceiver>(policy);
-    QVERIFY(receiver->listen(port, QHostAddress::LocalHost).ok());
-    connect(receiver.get(), &NoteReceiver::received, this, [&] { receiver.reset(); });
-    Client first(port, good());
-    Client second(port, good());
-    QTRY_VERIFY(!receiver);
-    QTRY_VERIFY(second.isClosed());
-}
+    void waitingPeersThatGo()
+    {
+        Listening there;
+        Client first(there.port, {});
+        QTRY_COMPARE(first.talk.heard, QByteArray("250"));
+        std::vector<std::unique_ptr<Client>> waiting;
+        for (int k = 0; k < 40; ++k)
+            waiting.push_back(std::make_unique<Client>(there.port, Script()));
+        for (const auto &client : waiting)
+            QTRY_VERIFY(client->isConnected());
+        const Client last(there.port, good());
+        waiting.clear();
+        first.socket.abort();
+        QTRY_COMPARE(there.packets.size(), 1);
+    }
+
+    void noRoom()
+    {
+        Listening there;
+        bool hasRoom = false;
+        there.receiver.setRoom([&hasRoom] { return hasRoom; });
+        const QSignalSpy told(&there.receiver, &NoteReceiver::noRoom);
+        const Client first(there.port, good(titled(u"a"_s)));
+        const Client second(there.port, good(titled(u"b"_s)));
+        QTRY_COMPARE(told.size(), 1);
+        QVERIFY(first.talk.heard.isEmpty() && first.isConnected());
+        hasRoom = true;
+        connect(&there.receiver, &NoteReceiver::received, this, [&hasRoom] { hasRoom = false; });
+        there.receiver.lookAgain();
+        // The first note takes the last room.
+        QTRY_COMPARE(told.size(), 2);
+        QCOMPARE(there.packets, QList{titled(u"a"_s)});
+        QVERIFY(second.talk.heard.isEmpty());
+    }
+
+    void refusedSenders()
+    {
+        Listening there;
+        there.policy.setSettings({.AcceptFrom = Senders::Nobody});
+        for (int k = 0; k < 40; ++k) {
+            const Client client(there.port, good());
+            QTRY_VERIFY(client.isClosed());
+            QVERIFY(client.talk.heard.isEmpty());
+        }
+        there.policy.setSettings({});
+        const Client client(there.port, good());
+        QTRY_COMPARE(there.packets.size(), 1);
+    }
+
+    void ports()
+    {
+        Listening there;
+        SenderPolicy policy;
+        NoteReceiver other(policy);
+        for (const qint32 port : {qint32(there.port), -1, 65536}) {
+            const auto listening = other.listen(port, QHostAddress::LocalHost);
+            QVERIFY(!listening.ok() && !other.isListening());
+            QCOMPARE(listening.error(), (Notice{u"Port is in use.  Networking disabled."_s, u"Error"_s}));
+        }
+        QCOMPARE(other.listen(0).value(), 0);
+        QVERIFY(!other.isListening());
+        there.receiver.close();
+        QCOMPARE(other.listen(there.port, QHostAddress::LocalHost).value(), there.port);
+    }
+
+    void closedInASlot()
+    {
+        SenderPolicy policy;
+        const quint16 port = freePort();
+        auto receiver = std::make_unique<NoteReceiver>(policy);
+        QVERIFY(receiver->listen(port, QHostAddress::LocalHost).ok());
+        connect(receiver.get(), &NoteReceiver::received, this, [&] { receiver.reset(); });
+        const Client first(port, good());
+        const Client second(port, good());
+        QTRY_VERIFY(!receiver);
+        QTRY_VERIFY(second.isClosed());
+    }
+};
 
 QTEST_GUILESS_MAIN(testNoteReceiver)
 #include "testNoteReceiver.moc"

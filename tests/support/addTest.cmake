@@ -25,8 +25,8 @@ endforeach()
 set(FLOORS_WITHOUT_WINDOWS model net search transfer)
 
 # add_quillets_test(NAME [FATAL_WARNINGS] [WINDOWS]): one executable of this folder's tests, which links the library of
-# the same floor, on the platform without a screen. With FATAL_WARNINGS any warning of Qt's ends it; tests that allow some say
-# which by `failOnWarnings`.
+# the same floor, on the platform without a screen. With FATAL_WARNINGS any warning of Qt's ends it; tests that allow
+# some say which by `failOnWarnings`. WINDOWS is said where the floor has none and the test does.
 function(add_quillets_test name)
     get_filename_component(floor ${CMAKE_CURRENT_SOURCE_DIR} NAME)
     # Qt wants a folder of the session that is its owner's alone.
