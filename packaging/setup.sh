@@ -12,7 +12,7 @@ DISPLAY_PACKAGES=(xvfb openbox x11vnc x11-apps imagemagick)
 PACKAGING_PACKAGES=(dpkg-dev file lintian)
 CHECK_PACKAGES=(clang-format clang-tidy shellcheck desktop-file-utils appstream)
 PICTURE_PACKAGES=(imagemagick x11-xserver-utils trayer)
-TEST_PACKAGES=(python3 python3-aiosmtpd dbus-daemon xvfb openbox xdotool x11-utils clang libclang-rt-14-dev)
+TEST_PACKAGES=(python3 python3-aiosmtpd dbus-daemon xvfb xauth openbox xdotool x11-utils clang libclang-rt-14-dev)
 
 # Installs those of the packages that are not there; asks apt for nothing when all are.
 install_packages() {
