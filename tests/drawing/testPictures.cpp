@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillets developers
 // SPDX-License-Identifier: MIT
 #include "drawing/PictureButton.h"
+#include "drawing/SharedPictures.h"
 #include "drawing/pictureFile.h"
 #include "support/TestHome.h"
 #include "support/compareRow.h"
@@ -8,6 +9,7 @@
 
 #include <QAccessible>
 #include <QDialog>
+#include <QPainter>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -106,6 +108,39 @@ private slots:
         row("larger than the file", {400, 300}, {4000, 50}, {400, 300});
         row("strip", {2'000'000, 1}, {3840, 2160}, {2'000'000, 1});
         row("more than is kept", {40'000, 1'000}, {1'000, 1'000}, {25'298, 632});
+    }
+
+    /// One decode for all, sharp again when a place that has grown rests; another one when the file is another.
+    void sharedPicture()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.bmp"_s);
+        TestHome::setContents(path, bitmap(400, 300));
+        SharedPictures pictures([] {});
+        const auto picture = pictures.of(path);
+        QCOMPARE(pictures.of(path), picture);
+        const QSignalSpy sharpened(picture.get(), &SharedPicture::sharpened);
+        QImage canvas(400, 300, QImage::Format_RGB32);
+        QPainter painter(&canvas);
+        const auto isSharp = [&](const QObject &place, QSize size) {
+            picture->cover(&place, size);
+            canvas.fill(Qt::blue);
+            const bool sharp = picture->draw(painter, QRect(QPoint(), size), size);
+            return sharp && canvas.pixelColor(size.width() - 1, size.height() - 1) == Qt::red;
+        };
+        const QObject one;
+        const QObject other;
+        picture->cover(&one, {40, 30});
+        QVERIFY(picture->isReadable() && isSharp(one, {40, 30}) && isSharp(other, {20, 20}));
+        QCOMPARE(sharpened.size(), 1);
+        QVERIFY(!isSharp(other, {80, 60}));
+        QTRY_COMPARE(sharpened.size(), 2);
+        QVERIFY(isSharp(other, {80, 60}) && isSharp(one, {40, 30}));
+        // Too large to look at stretched: not waited for.
+        QVERIFY(isSharp(other, {400, 300}));
+        QCOMPARE(sharpened.size(), 3);
+        TestHome::setContents(path, "no picture");
+        QVERIFY(pictures.of(path) != picture && !pictures.of(path)->isReadable());
     }
 
     void metafiles()
