@@ -14,8 +14,8 @@ from desktop import until
 from diary import ANY, Note
 from keyboard import Keyboard
 
-PANEL = "Menu - Quillets"
-BODY, TITLE = (60, 70), (60, 10)
+PANEL, STACK = "Menu - Quillets", "NoteStack - Quillets"
+BODY, TITLE, STACK_BODY = (60, 70), (60, 10), (60, 200)
 DELETE_FROM_RIGHT = 24
 BEAT = 0.02
 
@@ -148,6 +148,16 @@ class Session:
             if note.now("there") and not note.now("stack"):
                 note.set("stack", True, since, time.monotonic())
 
+    def type_into_stack(self, title, text, gap):
+        """Into its chosen note."""
+        self.panel_key("v")
+        window = self.program.window(STACK)
+        window.activate()
+        window.click(*STACK_BODY)
+        time.sleep(0.2)
+        self.type_on(self.notes[title], text, gap)
+        self.program.window(PANEL).activate()
+
     def save_by_key(self):
         self.keyboard.press("s", held="ctrl")
 
@@ -197,6 +207,7 @@ def minute(session):
     session.save()
     session.type_on(session.new_note("second"), "the second one", 0.05)
     session.all_to_stack()
+    session.type_into_stack("second", " goes on as a tab of many", 0.05)
     session.new_note("third")
     session.type_on(session.notes["third"], "typed until the very last moment of it all", 0.05)
     session.exit()
