@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// What the desktop may ask of the program that runs: the interface org.freedesktop.Application of the Desktop Entry
-/// Specification, under the program's own name on the session bus. Menus of launchers and keys of the desktop use it.
+/// What the desktop may ask of the program that runs: the interface org.freedesktop.Application, under the program's
+/// own name on the session bus. Menus of launchers and keys of the desktop use it.
 class DesktopActions final : public QObject
 {
     Q_OBJECT

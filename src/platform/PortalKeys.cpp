@@ -47,8 +47,7 @@ const QString Path = u"/org/freedesktop/portal/desktop"_s;
 const QString Shortcuts = u"org.freedesktop.portal.GlobalShortcuts"_s;
 const QString Request = u"org.freedesktop.portal.Request"_s;
 
-/// In the words of the shortcuts specification; nothing for a key whose name there is not sure, which leaves it to the
-/// user.
+/// In the words that the portal takes; nothing for a key whose name there is not sure, which leaves it to the user.
 QString trigger(const QKeySequence &keys)
 {
     const QKeyCombination chord = keys[0];

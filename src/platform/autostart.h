@@ -4,8 +4,8 @@
 
 #include <QString>
 
-/// The start of the program at log-in, by an entry in the user's autostart folder (Desktop Application Autostart
-/// Specification). The entry is the truth: other programs may show, change and remove it.
+/// The start of the program at log-in, by an entry in the user's autostart folder, as freedesktop.org's desktops read
+/// it. The entry is the truth: other programs may show, change and remove it.
 namespace autostart
 {
 
