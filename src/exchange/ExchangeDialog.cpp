@@ -36,7 +36,7 @@ ExchangeDialog::ExchangeDialog(Program &program, const Kind &kind, QWidget *owne
     layout->addLayout(makeButtons());
     m_progress->hide();
     connect(&m_progress->stopButton(), &QPushButton::clicked, this, [this] { stop(); });
-    m_to->setRecent(modFileIO::LoadRecentList(program.paths(), m_kindOfRecent).mid(0, MostRecent));
+    m_to->setRecent(modFileIO::LoadRecentList(program.paths(), m_kindOfRecent));
 }
 
 void ExchangeDialog::makeTargets(const QString &bookEntry)

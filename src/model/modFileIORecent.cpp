@@ -10,13 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-constexpr qsizetype MaximumItems = 10;
-
-} // namespace
-
 MiscLines modFileIO::ReadMiscFile(const ProgramPaths &paths)
 {
     const auto file = wholeFile::read(paths.MiscFile, textFile::MaximumBytes);
@@ -33,7 +26,7 @@ MiscLines modFileIO::ReadMiscFile(const ProgramPaths &paths)
 Outcome<Done, QString> modFileIO::SaveRecentList(const ProgramPaths &paths, RecentList which, const QStringList &items,
                                                  qsizetype count)
 {
-    const qsizetype kept = std::clamp<qsizetype>(count, 0, std::min(items.size(), MaximumItems));
+    const qsizetype kept = std::clamp<qsizetype>(count, 0, std::min(items.size(), MostRecent));
     MiscLines lines = ReadMiscFile(paths);
     (which == RecentList::Email ? lines.email : lines.send) = textFile::flattened(items.first(kept).join(u';'));
     const QByteArray text = textFile::encode(lines.email + u"\r\n"_s + lines.send + u"\r\n"_s);
@@ -47,7 +40,7 @@ QStringList modFileIO::LoadRecentList(const ProgramPaths &paths, RecentList whic
     QStringList items;
     for (const QStringView item : QStringView(line).split(u';')) {
         const QStringView trimmed = textValues::trimmed(item);
-        if (!trimmed.isEmpty())
+        if (!trimmed.isEmpty() && items.size() < MostRecent)
             items.append(trimmed.toString());
     }
     return items;

@@ -4,8 +4,6 @@
 
 #include <QStringList>
 
-inline constexpr qsizetype MostRecent = 10;
-
 /// The recent list with a text that was used: in front when it is new, the list as it is when it is there already.
-/// It never grows beyond MostRecent.
+/// It never grows beyond what its file keeps.
 QStringList withRecent(QStringList list, const QString &text);
